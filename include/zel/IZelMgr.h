@@ -1,0 +1,199 @@
+#pragma once
+
+#include <zel/CZelPoint.h>
+#include <zel/CZelRenderParameters.h>
+#include <zel/CZelUUID.h>
+#include <zel/CZelVersion.h>
+#include <zel/CZelVertex.h>
+#include <zel/ITable.h>
+#include <zel/IUnknown.h>
+#include <zel/IZelBasic.h>
+#include <zel/IZelBasicData.h>
+#include <zel/IZelExtStorageReader.h>
+#include <zel/IZelExtStorageWriter.h>
+#include <zel/IZelFeedback.h>
+#include <zel/IZelFileInfo.h>
+#include <zel/IZelImage.h>
+#include <zel/IZelMgrEx.h>
+#include <zel/IZelMgrRef.h>
+#include <zel/IZelObjectLink.h>
+#include <zel/IZelPlace.h>
+#include <zel/IZelPolygon.h>
+#include <zel/IZelQuad.h>
+#include <zel/IZelReadStream.h>
+#include <zel/IZelSharedPtrBase.h>
+#include <zel/IZelString.h>
+#include <zel/IZelTime.h>
+#include <zel/IZelWarning.h>
+#include <zel/IZelWriteStream.h>
+#include <zel/IZelXML.h>
+#include <zel/IZelZelObjectDefinition.h>
+#include <zel/TZelObjectMgr.h>
+#include <zel/ZelExport.h>
+#include <zel/ZelIdentifiers.h>
+#include <zel/xml/XIXMLAttribute.h>
+#include <zel/xml/XIXMLComment.h>
+#include <zel/xml/XIXMLData.h>
+#include <zel/xml/XIXMLElement.h>
+#include <zel/xml/XIXMLInstruction.h>
+
+namespace OvZel {
+
+class IZel3DPath;
+class IZelCamera;
+class IZelEnvironment;
+class IZelExternalDefinition;
+class IZelGround;
+class IZelHeliodon;
+class IZelLayer;
+class IZelLayerInfo;
+class IZelLight;
+class IZelLightsGroup;
+class IZelObjectInstance;
+class IZelPanoramaV2;
+class IZelScenario;
+class IZelViewObject;
+
+/// A generation of the boundary. newZelMgr takes 30 to 50, getMgrEx 5 to 50.
+enum EVersionZEL : std::int32_t { eVersionZelOldest = 30, eVersionZel = 50 };
+enum EExtendedVersionZEL : std::int32_t { eExtendedVersionZel = 50 };
+
+/// A scene document: the tree of its file, its lists of objects, its pictures and settings.
+///
+/// A document comes from newZelMgr and is at once an empty, valid scene. It is used by one thread
+/// at a time; different documents and the probes may run in parallel. AddRef and Release may come
+/// from any thread, and the last Release destroys the document at once, whatever objects a client
+/// still holds: those stay valid, but find no document any more.
+///
+/// Pointers that it returns carry no reference and live as long as the document, texts until the
+/// next change of the same value. Failures go to IZelFeedback::message as a text; the operation
+/// then returns false, null or an empty text.
+///
+/// The order of the virtual operations is a promise to compiled clients. Never insert, remove or
+/// reorder one; what is new goes into a new interface.
+class IZelMgr : public IZelBasic {
+public:
+    static constexpr CZelUUID sIID{"67E24B082AA7410BA0695588DA262039"};
+
+    /// What checkFormat2 finds.
+    enum eReadability : std::int32_t {
+        eUnknown = 0,          ///< no document of this format
+        eOlder = 1,            ///< written by a library before 6.0.4
+        eRecent = 2,           ///< written by 6.0.4 or 6.0.5
+        eSame = 3,             ///< written by this version, 6.0.6
+        eNewer = 4,            ///< written by a newer library, readable
+        eNewerWithLoss = 5,    ///< written by a newer library, readable with loss
+        eTooNew = 6,           ///< too new to be read
+        eOtherApplication = 7, ///< written by an application that isn't known
+    };
+
+    /// Makes a document. *out is released first when it isn't null. A failure, such as
+    /// "Client is newer than Zel Library!" above 50 or "Client is obsolete for this Zel Library!"
+    /// below 30, goes to the feedback with a null document and leaves *out null. The feedback may
+    /// be null, isn't counted and must outlive the document. A null out does nothing.
+    static ZEL_API void newZelMgr(IZelMgr** out, EVersionZEL clientVersion, IZelFeedback* feedback);
+    static ZEL_API EVersionZEL getZELVersion();
+    static ZEL_API EExtendedVersionZEL getExtendedZelVersion();
+
+    /// Whether this library can read the stream, without loading it. version (may be null) takes
+    /// the version of the writing library, label (may be null) a text such as "Vendralis (6.0)",
+    /// cut to labelSize bytes. The stream's position is put back. Raises and reports nothing.
+    static ZEL_API bool checkFormat2(IZelReadStream* stream, eReadability* readability,
+                                     CZelVersion* version, char* label, std::uint32_t labelSize);
+    /// The preview picture of a file, without loading it: *out takes one reference for the caller,
+    /// or null. The stream stays where the search stopped. Raises and reports nothing.
+    static ZEL_API void readPreviewImage(IZelImage** out, IZelReadStream* stream);
+    /// Origin and identifier of a file, without loading it: *out takes one reference for the
+    /// caller; what wasn't found is zero. The stream's position is put back.
+    static ZEL_API void readFileInfo(IZelFileInfo** out, IZelReadStream* stream);
+
+protected:
+    ~IZelMgr() override = default;
+
+public:
+    /// Name and version of the writing application, saved with the document; empty at first. A
+    /// null text counts as empty.
+    virtual void setApplication(const char* name, const char* version) = 0;
+    virtual const char* getApplicationName() const = 0;
+    virtual const char* getApplicationVersion() const = 0;
+    virtual IZelFileInfo* getFileInfo() = 0;
+    virtual IZelFileInfo* getFileInfo2() = 0;
+    /// The further operations, for a client of generation 5 to 50; else null with a message as in
+    /// newZelMgr.
+    virtual IZelMgrEx* getMgrEx(EVersionZEL clientVersion) = 0;
+    /// The library version in the file last read, 0.0.0 before.
+    virtual const CZelVersion* getLibraryVersion() const = 0;
+    /// Replaces the content of the document by that of the stream; lists whose section the file
+    /// lacks stay as they are. A null reader keeps the meshes in the document. False after a
+    /// failure or a cancel, both told on the feedback: after a cancel or a syntax error the file's
+    /// frame that was in force before is still in force, after a later failure lists are partly
+    /// filled. A block of pictures or geometry that fails alone gives a message, not a failure.
+    virtual bool read(IZelReadStream* stream, IZelExtStorageReader* reader) = 0;
+    /// writeVersion with a null version.
+    virtual bool write(IZelWriteStream* stream, IZelExtStorageWriter* writer) = 0;
+    /// Major and minor of the file generation last read, 5 and 1 before. Either may be null.
+    virtual bool getFileVersion(std::int32_t* major, std::int32_t* minor) const = 0;
+    virtual TZelObjectMgr<IZelCamera>* getCameras() = 0;
+    /// The document's own mesh, saved only while the document has no internal components.
+    virtual TZelObjectMgr<IZelPolygon>* getPolygons() = 0;
+    virtual TZelObjectMgr<CZelPoint>* getPoints() = 0;
+    virtual TZelObjectMgr<IZelProperty>* getProperties() = 0;
+    virtual TZelObjectMgr<IZelLight>* getLights() = 0;
+    virtual TZelObjectMgr<IZelViewObject>* getViewObjects() = 0;
+    virtual TZelObjectMgr<IZelParallelView>* getParallelViews() = 0;
+    virtual TZelObjectMgr<IZelHeliodon>* getHeliodons() = 0;
+    virtual TZelObjectMgr<IZelLightsGroup>* getLightsGroups() = 0;
+    /// The picture shown for the file. A load of a file by library 5 or later leaves it empty:
+    /// take it with readPreviewImage and give it back with setImage before a save.
+    virtual IZelImage* getPreviewImage() = 0;
+    virtual TZelObjectMgr<IZelImage>* getImages() = 0;
+    /// The scene itself as one definition.
+    virtual IZelZelObjectDefinition* getObjectDefinition() = 0;
+    virtual TZelObjectMgr<IZelObjectInstance>* getObjectInstances() = 0;
+    /// As IZelMgrRef::getLanguage and setLanguage.
+    virtual const char* getLanguage() const = 0;
+    virtual void setLanguage(const char* language) = 0;
+    /// The comment of that number ahead of the root element, or null.
+    virtual const char* getComment(std::int32_t index) = 0;
+    /// Replaces the comment of that number, removes it when the text is null, or adds a comment
+    /// when there are fewer. Returns the number of the comment; 0xFFFFFFFF when there was nothing
+    /// to remove or after a failure. A comment must not contain "-->": the next save would fail.
+    virtual std::uint32_t setComment(const char* text, std::int32_t index) = 0;
+    /// Where the document was saved; empty at first.
+    virtual const char* getURL() = 0;
+    virtual void setURL(const char* url) = 0;
+    /// An element for client data under the given tag, made if it isn't there; null for a null or
+    /// empty tag. It isn't saved: each write removes all such elements. Sections of this data must
+    /// not be named "Image", "Points" or "Polygons".
+    virtual OrvaneXML::XIXMLElement* getApplicationData(const char* tag) = 0;
+    virtual TZelObjectMgr<IZelScenario>* getScenarios() = 0;
+    virtual TZelObjectMgr<IZel3DPath>* get3DPaths() = 0;
+    virtual TZelObjectMgr<IZelEnvironment>* getEnvironments() = 0;
+    virtual TZelObjectMgr<IZelGround>* getGrounds() = 0;
+    virtual TZelObjectMgr<IZelLayer>* getLayers() = 0;
+    virtual TZelObjectMgr<IZelLayer>* getLayers2() = 0;
+    /// Null: this version has no layer information.
+    virtual IZelLayerInfo* getLayerInfo() = 0;
+    /// The internal components, each with a mesh of its own.
+    virtual TZelObjectMgr<IZelZelObjectDefinition>* getDefinitions() = 0;
+    /// The supplier of meshes for saves that are given none; returns the one before. Not counted.
+    virtual IZelExtStorageWriter* setExtStorageWriter(IZelExtStorageWriter* writer) = 0;
+    /// Takes only pictures and geometry out of a stream, and leaves everything else as it is.
+    virtual void readCData(IZelReadStream* stream, IZelExtStorageReader* reader) = 0;
+    /// Saves the document. A null writer means the one of setExtStorageWriter, or the document's
+    /// own meshes. The version (may be null) is what the file claims to be readable by; it changes
+    /// nothing else. False after a failure, told on the feedback; the stream then holds part of a
+    /// file, the lists are untouched, and a further save may succeed. Nothing may change the
+    /// document during the call.
+    virtual bool writeVersion(IZelWriteStream* stream, IZelExtStorageWriter* writer,
+                              const CZelVersion* version) = 0;
+    /// Takes the name of the scene's definition out of a stream, without loading it. Always true.
+    virtual bool readMediaInfo(IZelReadStream* stream) = 0;
+    virtual TZelObjectMgr<IZelPanoramaV2>* getPanoramas() = 0;
+    /// As IZelMgrRef::getMatrix and setMatrix.
+    virtual const double* getMatrix() const = 0;
+    virtual void setMatrix(const double* matrix) = 0;
+    virtual TZelObjectMgr<IZelExternalDefinition>* getExternalDefinitions() = 0;
+};
+
+} // namespace OvZel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <zel/CZelVersion.h>
+#include <zel/TZelObjectMgr.h>
+
+namespace OvZel {
+
+class IZelAnimation;
+class IZelBBMgrData;
+class IZelParallelView;
+class IZelProperty;
+class IZelReadStream;
+class IZelWriteStream;
+struct CZelRenderParameters;
+
+/// What a document offers beside IZelMgr, reached by IZelMgr::getMgrEx.
+///
+/// It has no count of its own and lives as long as the document. Pointers that it returns carry no
+/// reference. One thread at a time.
+class IZelMgrEx {
+public:
+    virtual TZelObjectMgr<IZelAnimation>* getAnimations() = 0;
+    virtual TZelObjectMgr<IZelBBMgrData>* getBillboards() = 0;
+    /// Reads a shader document into the property. This version has no properties: a message and
+    /// false.
+    virtual bool readShader(IZelProperty* property, IZelReadStream* stream) = 0;
+    /// Writes the property as a shader document. This version has no properties: a message and
+    /// false.
+    virtual bool writeShader(IZelProperty* property, IZelWriteStream* stream) = 0;
+    virtual TZelObjectMgr<IZelParallelView>* getWorkingViews() = 0;
+    /// A new free-standing shader, which is never saved with the document; null, with a warning,
+    /// when it cannot be made.
+    virtual IZelProperty* newShader() = 0;
+    /// Removes the given shader if it is the first one of the document; otherwise does nothing.
+    virtual void removeShader(IZelProperty* property) = 0;
+    virtual CZelRenderParameters* getRenderParameters() = 0;
+    /// The oldest library version that the running save promises to be readable by; 6.0.0 when no
+    /// save runs.
+    virtual const CZelVersion* getSaveVersion() const = 0;
+
+protected:
+    ~IZelMgrEx() = default;
+};
+
+} // namespace OvZel

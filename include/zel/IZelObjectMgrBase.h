@@ -1,0 +1,31 @@
+#pragma once
+
+#include <zel/IZelBasic.h>
+
+namespace OvZel {
+
+/// An ordered list of the model, without the type of its elements.
+///
+/// A bad index warns on the feedback ("removeObject: Bad index value" and the like), changes
+/// nothing and gives the failure value. One thread at a time.
+class IZelObjectMgrBase : public IZelBasic {
+public:
+    static constexpr CZelUUID sIID{"C243B7B175044DCF9BD2C3EB74AE0F8D"};
+
+    /// The identifier of the element type.
+    virtual const CZelUUID* getObjectIID() const = 0;
+    virtual std::int32_t getNbObjects() const = 0;
+    /// -1 means the last element.
+    virtual void removeObject(std::int32_t index) = 0;
+    /// Takes the element out of from and inserts it at to, counted after the removal.
+    virtual void moveObject(std::int32_t from, std::int32_t to) = 0;
+    virtual void removeAllObjects() = 0;
+    /// Makes room for that many elements; false when there is no memory. Lists of plain records
+    /// take the number as their new capacity, but never less than the records that they hold.
+    virtual bool reserve(std::int32_t count) = 0;
+
+protected:
+    ~IZelObjectMgrBase() override = default;
+};
+
+} // namespace OvZel
