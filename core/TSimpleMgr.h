@@ -1,0 +1,165 @@
+#pragma once
+
+#include "core/TObjectMgrBase.h"
+#include "core/elementId.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+namespace OvZel {
+
+/// A list of plain records in one flat buffer. A new record is all zero bytes.
+template <class T>
+class TSimpleMgr : public TObjectMgrBase<T> {
+    static_assert(std::is_trivially_copyable_v<T>, "records are moved as bytes");
+
+public:
+    explicit TSimpleMgr(IZelObjectLink* owner, std::int32_t capacity = 0) : TObjectMgrBase<T>(owner)
+    {
+        if (capacity > 0)
+            TSimpleMgr::reserve(capacity);
+    }
+    ~TSimpleMgr() override { std::free(mRecords); }
+
+    const CZelUUID* getObjectIID() const override { return elementId<T>(); }
+    std::int32_t getNbObjects() const override { return mCount; }
+    void removeObject(std::int32_t index) override;
+    void moveObject(std::int32_t from, std::int32_t to) override;
+    /// Keeps the buffer.
+    void removeAllObjects() override { mCount = 0; }
+    bool reserve(std::int32_t count) override;
+    T* getZelObject(std::int32_t index) override;
+    T* newZelObject(std::int32_t index) override;
+
+    std::int32_t size() const { return mCount; }
+    std::int32_t capacity() const { return mCapacity; }
+    T* data() { return mRecords; }
+    const T* data() const { return mRecords; }
+
+    /// A zeroed record behind the last; null when memory runs out.
+    T* append()
+    {
+        if (mCount == mCapacity && !grow())
+            return nullptr;
+        T* record = mRecords + mCount++;
+        std::memset(static_cast<void*>(record), 0, sizeof(T));
+        return record;
+    }
+    /// Copies records behind the last; false when memory runs out.
+    bool append(const T* records, std::int32_t count);
+
+private:
+    bool grow();
+
+    std::int32_t mCount = 0;
+    std::int32_t mCapacity = 0;
+    T* mRecords = nullptr;
+};
+
+template <class T>
+void TSimpleMgr<T>::removeObject(std::int32_t index)
+{
+    if (index == -1) {
+        if (mCount == 0)
+            return this->warning("removeObject: no more object to remove");
+        index = mCount - 1;
+    }
+    if (!this->isBelow(index, static_cast<std::size_t>(mCount)))
+        return this->warning("removeObject: Bad index value");
+    --mCount;
+    std::memmove(static_cast<void*>(mRecords + index), mRecords + index + 1,
+                 static_cast<std::size_t>(mCount - index) * sizeof(T));
+}
+
+template <class T>
+void TSimpleMgr<T>::moveObject(std::int32_t from, std::int32_t to)
+{
+    if (from == to)
+        return;
+    const auto count = static_cast<std::size_t>(mCount);
+    if (!this->isBelow(from, count) || !this->isBelow(to, count))
+        return this->warning("moveObject: Bad index value");
+    const T record = mRecords[from];
+    this->removeObject(from);
+    if (T* place = this->newZelObject(to))
+        *place = record;
+}
+
+template <class T>
+bool TSimpleMgr<T>::reserve(std::int32_t count)
+{
+    if (count < 0)
+        return false;
+    if (count < mCount)
+        count = mCount;
+    if (count == mCapacity)
+        return true;
+    const auto size = static_cast<std::size_t>(count) * sizeof(T);
+    void* records = count > 0 ? std::realloc(static_cast<void*>(mRecords), size) : nullptr;
+    if (records == nullptr)
+        std::free(mRecords);
+    mRecords = static_cast<T*>(records);
+    mCapacity = count;
+    if (records != nullptr || count == 0)
+        return true;
+    mCount = mCapacity = 0;
+    this->warning("No memory availiable");
+    return false;
+}
+
+template <class T>
+T* TSimpleMgr<T>::getZelObject(std::int32_t index)
+{
+    if (this->isBelow(index, static_cast<std::size_t>(mCount)))
+        return mRecords + index;
+    this->warning("getZelObject: Bad index value");
+    return nullptr;
+}
+
+template <class T>
+T* TSimpleMgr<T>::newZelObject(std::int32_t index)
+{
+    if (mCount == mCapacity && !grow())
+        return nullptr;
+    if (index == -1)
+        index = mCount;
+    if (!this->isBelow(index, static_cast<std::size_t>(mCount) + 1)) {
+        this->warning("newZelObject: Bad index value");
+        return nullptr;
+    }
+    T* record = mRecords + index;
+    std::memmove(static_cast<void*>(record + 1), record,
+                 static_cast<std::size_t>(mCount - index) * sizeof(T));
+    std::memset(static_cast<void*>(record), 0, sizeof(T));
+    ++mCount;
+    return record;
+}
+
+template <class T>
+bool TSimpleMgr<T>::append(const T* records, std::int32_t count)
+{
+    if (count <= 0)
+        return true;
+    if (count > std::numeric_limits<std::int32_t>::max() - mCount)
+        return false;
+    if (mCount + count > mCapacity && !reserve(mCount + count))
+        return false;
+    std::memcpy(static_cast<void*>(mRecords + mCount), records,
+                static_cast<std::size_t>(count) * sizeof(T));
+    mCount += count;
+    return true;
+}
+
+template <class T>
+bool TSimpleMgr<T>::grow()
+{
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    if (mCapacity == kMost)
+        return false;
+    const std::int32_t wanted = mCapacity == 0 ? 1 : mCapacity;
+    return this->reserve(wanted > kMost / 2 ? kMost : wanted * 2);
+}
+
+} // namespace OvZel

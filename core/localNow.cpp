@@ -1,0 +1,11 @@
+#include "core/localNow.h"
+
+namespace OvZel {
+
+bool localNow(std::tm& now)
+{
+    const std::time_t seconds = std::time(nullptr);
+    return seconds != static_cast<std::time_t>(-1) && localtime_r(&seconds, &now) != nullptr;
+}
+
+} // namespace OvZel
