@@ -1,0 +1,83 @@
+#include "render/renderParametersXML.h"
+
+#include "xml/CZelXMLAdd.h"
+#include "xml/CZelXMLGet.h"
+
+#include <algorithm>
+
+namespace OvZel {
+
+namespace {
+
+/// The tags of one entry, whose number in the file counts from 1.
+struct CTags {
+    explicit CTags(int entry)
+    {
+        const std::string number = std::to_string(entry + 1);
+        value = "Double" + number;
+        minimum = value + ".Min";
+        maximum = value + ".Max";
+        flag = "BOOL" + number;
+        text = "STR" + number;
+        color = "COLOR" + number;
+    }
+
+    std::string value, minimum, maximum, flag, text, color;
+};
+
+CZelColor toColor(const std::uint8_t (&bytes)[4])
+{
+    CZelColor color;
+    std::copy_n(bytes, 4, color.bytes);
+    return color;
+}
+
+void getIfThere(double& value, const CZelXMLGet& in, const std::string& tag)
+{
+    if (in.IsElement(tag.c_str()))
+        value = in.GetDouble(tag.c_str());
+}
+
+/// The name is the child's text; older writers gave it as the attribute "en".
+std::string configName(const CZelXMLGet& in)
+{
+    const char* attribute = CZelXMLGet(in.GetElement("Config.Name")).GetOptionalAttribute("en");
+    return attribute != nullptr ? attribute : in.GetText("Config.Name");
+}
+
+} // namespace
+
+void addRenderParameters(const CZelRenderParameters& parameters, CZelXMLAdd out)
+{
+    out.AddText("Config.Name", parameters.configName.c_str());
+    for (int i = 0; i < CZelRenderParameters::kNbEntries; ++i) {
+        const CZelRenderParameters::CEntry& entry = parameters.entries[i];
+        const CTags tags(i);
+        out.AddDouble(tags.value.c_str(), entry.value);
+        out.AddDouble(tags.minimum.c_str(), entry.minimum);
+        out.AddDouble(tags.maximum.c_str(), entry.maximum);
+        out.AddBoolean(tags.flag.c_str(), entry.flag);
+        CZelXMLAdd(out.AddElement(tags.text.c_str())).AddAttribute("en", entry.text.c_str());
+        out.AddColor(tags.color.c_str(), toColor(entry.color));
+    }
+}
+
+void getRenderParameters(CZelRenderParameters& parameters, const CZelXMLGet& in)
+{
+    if (in.IsElement("Config.Name"))
+        parameters.configName = configName(in);
+    for (int i = 0; i < CZelRenderParameters::kNbEntries; ++i) {
+        CZelRenderParameters::CEntry& entry = parameters.entries[i];
+        const CTags tags(i);
+        getIfThere(entry.value, in, tags.value);
+        getIfThere(entry.minimum, in, tags.minimum);
+        getIfThere(entry.maximum, in, tags.maximum);
+        entry.flag = in.IsElement(tags.flag.c_str());
+        if (in.IsElement(tags.text.c_str()))
+            entry.text = in.GetAttributeLanguage(tags.text.c_str());
+        if (in.IsElement(tags.color.c_str()))
+            std::copy_n(in.GetColor(tags.color.c_str()).bytes, 4, entry.color);
+    }
+}
+
+} // namespace OvZel
