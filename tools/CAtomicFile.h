@@ -1,0 +1,36 @@
+#pragma once
+
+#include "tools/CFileWriteStream.h"
+
+#include <string>
+
+namespace tool {
+
+/// A file that is replaced as a whole or not at all: the bytes go to a new file beside it, which
+/// takes its place once everything is on the disk. The target may be the file that is being read.
+class CAtomicFile {
+public:
+    /// Throws CToolError(eIoError) when no file can be made beside the target, or when the target
+    /// is no ordinary file. A link is followed.
+    explicit CAtomicFile(const std::string& target);
+    /// Removes the new file unless it was committed.
+    ~CAtomicFile();
+    CAtomicFile(const CAtomicFile&) = delete;
+    CAtomicFile& operator=(const CAtomicFile&) = delete;
+
+    CFileWriteStream& stream() { return mStream; }
+    /// Throws CToolError(eIoError) when a write failed; the target is then as it was.
+    void commit();
+    /// Throws what commit would throw for the writes up to now.
+    void check();
+
+private:
+    [[noreturn]] void fail(const std::string& why) const;
+
+    std::string mTarget;
+    std::string mTemporary;
+    int mDescriptor;
+    CFileWriteStream mStream;
+};
+
+} // namespace tool

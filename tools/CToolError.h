@@ -1,0 +1,25 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace tool {
+
+/// What the tool ends with.
+enum EExit : int { eDone = 0, eUsage = 64, eNotReadable = 65, eIoError = 74 };
+
+/// A failure that ends a command, with its exit code and the text for standard error.
+class CToolError : public std::runtime_error {
+public:
+    CToolError(EExit code, const std::string& text) : std::runtime_error(text), mCode(code) {}
+
+    EExit code() const { return mCode; }
+
+private:
+    EExit mCode;
+};
+
+/// Puts one line on standard error.
+void complain(const std::string& text);
+
+} // namespace tool

@@ -1,0 +1,22 @@
+#include "tools/CToolOutput.h"
+
+#include "tools/CToolError.h"
+#include "tools/platform.h"
+
+namespace tool {
+
+CToolOutput::CToolOutput() : mDescriptor(takeStandardOutput()) {}
+
+CToolOutput::~CToolOutput()
+{
+    if (mDescriptor >= 0)
+        closeFile(mDescriptor);
+}
+
+void CToolOutput::write(const std::string& text)
+{
+    if (!writeAll(mDescriptor, text.data(), text.size()))
+        throw CToolError(eIoError, "can't write to standard output: " + lastFailure());
+}
+
+} // namespace tool

@@ -1,0 +1,144 @@
+#include "tools/CToolOutput.h"
+#include "tools/commands.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <functional>
+#include <sstream>
+
+namespace tool {
+
+// What stands on the command line, and what is to be done with it.
+struct CArguments {
+    std::vector<std::string> files;
+    std::string in;
+    std::string out;
+    std::string preview;
+    bool asJson = false;
+    bool bare = false;
+    std::function<EExit()> command;
+};
+
+static void addInfo(CLI::App& app, CArguments& arguments, CToolOutput& output)
+{
+    CLI::App* info = app.add_subcommand("info", "Tells about files without loading them");
+    info->add_flag("--json", arguments.asJson, "One JSON object for each file and line");
+    info->add_option("FILE", arguments.files, "Documents to look at")->required();
+    info->footer("Each line holds file, version, label and readability: no-document, older, "
+                 "recent, same,\nnewer, newer-with-loss, too-new or other-application.\n\n"
+                 "Example: zel info --json house.zel garden.zel");
+    info->callback([&] {
+        arguments.command = [&] { return infoCommand(arguments.files, arguments.asJson, output); };
+    });
+}
+
+static void addPreview(CLI::App& app, CArguments& arguments)
+{
+    CLI::App* preview = app.add_subcommand("preview", "Takes the preview picture out of a file");
+    preview->add_option("FILE", arguments.in, "The document")->required();
+    preview->add_option("OUT.png", arguments.out, "The picture to write")->required();
+    preview->footer("Example: zel preview house.zel house.png");
+    preview->callback([&] {
+        arguments.command = [&] {
+            previewCommand(arguments.in, arguments.out);
+            return eDone;
+        };
+    });
+}
+
+static void addRewrite(CLI::App& app, CArguments& arguments)
+{
+    CLI::App* rewrite = app.add_subcommand("rewrite", "Loads a document and saves it");
+    rewrite->add_flag("--bare", arguments.bare,
+                      "Load and save only: the preview picture of a newer file is lost");
+    rewrite->add_option("IN", arguments.in, "The document to load")->required();
+    rewrite->add_option("OUT", arguments.out, "The document to save; may be IN")->required();
+    rewrite->footer("OUT is replaced as a whole or not at all.\n\n"
+                    "Example: zel rewrite old.zel new.zel");
+    rewrite->callback([&] {
+        arguments.command = [&] {
+            rewriteCommand(arguments.in, arguments.out, arguments.bare);
+            return eDone;
+        };
+    });
+}
+
+static void addFromModel(CLI::App& app, CArguments& arguments)
+{
+    CLI::App* fromModel = app.add_subcommand("from-model", "Makes a document from a model");
+    fromModel->add_option("MODEL", arguments.in, "An OBJ, IFC, glTF or other model file")
+        ->required();
+    fromModel->add_option("OUT", arguments.out, "The document to save")->required();
+    fromModel->add_option("--preview", arguments.preview, "A PNG picture to show for the document");
+    fromModel->footer("Example: zel from-model house.ifc house.zel --preview house.png");
+    fromModel->callback([&] {
+        arguments.command = [&] {
+            fromModelCommand(arguments.in, arguments.out, arguments.preview);
+            return eDone;
+        };
+    });
+}
+
+static void addToModel(CLI::App& app, CArguments& arguments)
+{
+    CLI::App* toModel = app.add_subcommand("to-model", "Writes the meshes of a document as OBJ");
+    toModel->add_option("IN", arguments.in, "The document to load")->required();
+    toModel->add_option("OUT.obj", arguments.out, "The model to write")->required();
+    toModel->footer("Each material index N becomes the material name material_N.\n\n"
+                    "Example: zel to-model house.zel house.obj");
+    toModel->callback([&] {
+        arguments.command = [&] {
+            toModelCommand(arguments.in, arguments.out);
+            return eDone;
+        };
+    });
+}
+
+// Help is output and goes where output goes; everything else that stops parsing is a usage error.
+static EExit stopParsing(const CLI::App& app, const CLI::ParseError& error, CToolOutput& output)
+{
+    std::ostringstream help;
+    std::ostringstream complaint;
+    const int code = app.exit(error, help, complaint);
+    output.write(help.str());
+    std::fputs(complaint.str().c_str(), stderr);
+    return code == 0 ? eDone : eUsage;
+}
+
+static EExit run(int argc, char** argv, CToolOutput& output)
+{
+    CLI::App app("Looks into, converts and rewrites ZEL scene documents.", "zel");
+    app.footer("Exit codes: 0 done, 64 wrong usage, 65 not readable, 74 a file can't be read or "
+               "written.\nOutput goes to standard output, messages to standard error.\n\n"
+               "Example: zel info house.zel");
+    app.require_subcommand(1);
+    CArguments arguments;
+    addInfo(app, arguments, output);
+    addPreview(app, arguments);
+    addRewrite(app, arguments);
+    addFromModel(app, arguments);
+    addToModel(app, arguments);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return stopParsing(app, error, output);
+    }
+    return arguments.command();
+}
+
+} // namespace tool
+
+int main(int argc, char** argv)
+{
+    tool::CToolOutput output;
+    try {
+        return tool::run(argc, argv, output);
+    } catch (const tool::CToolError& error) {
+        tool::complain(error.what());
+        return error.code();
+    } catch (const std::exception& error) {
+        tool::complain(error.what());
+        return tool::eIoError;
+    }
+}

@@ -1,0 +1,83 @@
+#include "tools/platform.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+namespace tool {
+
+int takeStandardOutput()
+{
+    const int output = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+    ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    return output;
+}
+
+int createFile(const std::string& path, const std::string& permissionsOf)
+{
+    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    struct stat status = {};
+    if (descriptor >= 0 && ::stat(permissionsOf.c_str(), &status) == 0)
+        ::fchmod(descriptor, status.st_mode & 0777);
+    return descriptor;
+}
+
+bool writeAll(int descriptor, const char* bytes, std::size_t size)
+{
+    while (size > 0) {
+        const ssize_t written = ::write(descriptor, bytes, size);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written <= 0)
+            return false;
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+bool flushToDisk(int descriptor)
+{
+    return ::fsync(descriptor) == 0;
+}
+
+bool closeFile(int descriptor)
+{
+    return ::close(descriptor) == 0;
+}
+
+bool replaceFile(const std::string& from, const std::string& to)
+{
+    if (std::rename(from.c_str(), to.c_str()) != 0)
+        return false;
+    // The new name is in force already; flushing the folder only makes it survive a power cut
+    // sooner, and some file systems cannot do it.
+    const std::filesystem::path folder = std::filesystem::path(to).parent_path();
+    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (descriptor >= 0) {
+        ::fsync(descriptor);
+        ::close(descriptor);
+    }
+    return true;
+}
+
+void removeFile(const std::string& path)
+{
+    ::unlink(path.c_str());
+}
+
+long processNumber()
+{
+    return static_cast<long>(::getpid());
+}
+
+std::string lastFailure()
+{
+    return std::system_category().message(errno);
+}
+
+} // namespace tool

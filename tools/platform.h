@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace tool {
+
+/// What the tool asks of the operating system beyond the standard library. Descriptors are plain
+/// numbers, -1 for none; after a failure lastFailure says why.
+
+/// A duplicate of standard output; the descriptor itself leads to standard error from here on.
+int takeStandardOutput();
+/// Opens a file that must not exist yet, with the permissions of another file if that exists.
+int createFile(const std::string& path, const std::string& permissionsOf);
+/// False when not all bytes could be written.
+bool writeAll(int descriptor, const char* bytes, std::size_t size);
+/// Waits until the file's bytes are on the disk.
+bool flushToDisk(int descriptor);
+bool closeFile(int descriptor);
+/// Puts a file in the place of another one of the same folder, in one step.
+bool replaceFile(const std::string& from, const std::string& to);
+void removeFile(const std::string& path);
+long processNumber();
+std::string lastFailure();
+
+} // namespace tool
