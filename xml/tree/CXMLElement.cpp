@@ -1,0 +1,307 @@
+#include "xml/tree/CXMLElement.h"
+
+#include "xml/tree/CXMLCDataNode.h"
+#include "xml/tree/CXMLCommentNode.h"
+#include "xml/tree/CXMLInstructionNode.h"
+#include "xml/tree/CXMLTextNode.h"
+
+#include <stdexcept>
+
+namespace OrvaneXML {
+
+namespace {
+
+XIXMLElement* elementFrom(CXMLNode* node, const SXMLName* name)
+{
+    for (; node; node = node->Next())
+        if (node->Kind() == CXMLNode::EKind::Element) {
+            auto* element = static_cast<CXMLElement*>(node);
+            if (!name || element->Name() == name)
+                return element;
+        }
+    return nullptr;
+}
+
+} // namespace
+
+// ---- children
+
+void CXMLElement::CheckChild(EKind kind) const
+{
+    if (IsRoot() && (kind == EKind::Text || kind == EKind::CData))
+        throw std::runtime_error("The root of a tree cannot hold a text or a CDATA section");
+}
+
+void CXMLElement::Insert(CXMLNode* child, CXMLNode* before)
+{
+    child->mParent = this;
+    child->mNext = before;
+    if (!mFirst) {
+        child->mPrevious = child;
+        mFirst = child;
+        return;
+    }
+    CXMLNode* neighbour = before ? before : mFirst; // whose previous is the node in front
+    child->mPrevious = neighbour->mPrevious;
+    if (before == mFirst)
+        mFirst = child;
+    else
+        child->mPrevious->mNext = child;
+    neighbour->mPrevious = child;
+}
+
+void CXMLElement::Unlink(CXMLNode* child)
+{
+    CXMLNode* next = child->mNext;
+    if (child == mFirst)
+        mFirst = next;
+    else
+        child->mPrevious->mNext = next;
+    if (next)
+        next->mPrevious = child->mPrevious;
+    else if (mFirst)
+        mFirst->mPrevious = child->mPrevious;
+    child->mParent = nullptr;
+    child->mNext = child->mPrevious = nullptr;
+}
+
+CXMLNode* CXMLElement::TakeChildren()
+{
+    CXMLNode* first = mFirst;
+    mFirst = nullptr;
+    return first;
+}
+
+bool CXMLElement::IsBelow(const CXMLNode* node) const
+{
+    const CXMLNode* place = this;
+    while (place && place != node)
+        place = place->ParentElement();
+    return place != nullptr;
+}
+
+void CXMLElement::InsertChild(XIXMLData* child, XIXMLData* before)
+{
+    auto* node = static_cast<CXMLNode*>(child);
+    auto* place = static_cast<CXMLNode*>(before);
+    if (!node || &node->Store() != &Store() || IsBelow(node))
+        throw std::runtime_error("A child comes from the same tree and cannot hold its parent");
+    if (place && place->ParentElement() != this)
+        throw std::runtime_error("The node to insert before is not a child of the element");
+    CheckChild(node->Kind());
+    if (node == place)
+        return;
+    node->ParentElement()->Unlink(node);
+    Insert(node, place);
+}
+
+CXMLNode* CXMLElement::FirstOf(EKind kind) const
+{
+    CXMLNode* node = mFirst;
+    while (node && node->Kind() != kind)
+        node = node->Next();
+    return node;
+}
+
+XIXMLElement* CXMLElement::GetFirstElement() const
+{
+    return elementFrom(mFirst, nullptr);
+}
+
+XIXMLElement* CXMLElement::GetNextElement() const
+{
+    return elementFrom(Next(), nullptr);
+}
+
+XIXMLElement* CXMLElement::GetNextSame() const
+{
+    return elementFrom(Next(), mName);
+}
+
+XIXMLElement* CXMLElement::FindElement(XCXMLKey key) const
+{
+    const SXMLName* name = Store().names.Find(key);
+    return name ? elementFrom(mFirst, name) : nullptr;
+}
+
+// ---- adding
+
+CXMLElement* CXMLElement::AppendNamed(const SXMLName* name)
+{
+    auto* element = Store().New<CXMLElement>(name);
+    Store().nbBad += name->isBadElement();
+    Append(element);
+    return element;
+}
+
+XIXMLElement* CXMLElement::AddElement(XCXMLKey key)
+{
+    return AppendNamed(Store().names.Resolve(key));
+}
+
+CXMLNode* CXMLElement::InsertText(std::string_view text, CXMLNode* before)
+{
+    CheckChild(EKind::Text);
+    CXMLStore& store = Store();
+    auto* node = store.New<CXMLTextNode>(store.NewText(text));
+    Insert(node, before);
+    return node;
+}
+
+XIXMLData* CXMLElement::AddText(const char* text)
+{
+    return InsertText(textOrEmpty(text), nullptr);
+}
+
+XIXMLData* CXMLElement::AddComment(const char* text)
+{
+    CXMLNode* node = CXMLCommentNode::Make(Store(), textOrEmpty(text));
+    Append(node);
+    return node;
+}
+
+XIXMLData* CXMLElement::AddInstruction(const char* target, const char* content)
+{
+    CXMLStore& store = Store();
+    CXMLNode* node = CXMLInstructionNode::Make(store, store.names.Intern(textOrEmpty(target)),
+                                               textOrEmpty(content));
+    Append(node);
+    return node;
+}
+
+CXMLNode* CXMLElement::AppendCData(XIXMLData::IXMLCData* provider)
+{
+    CheckChild(EKind::CData);
+    CXMLNode* node = CXMLCDataNode::Make(Store(), provider);
+    Append(node);
+    return node;
+}
+
+void CXMLElement::SetCData(XIXMLData::IXMLCData* provider)
+{
+    auto* node = static_cast<CXMLCDataNode*>(FirstOf(EKind::CData));
+    if (node && provider)
+        node->SetProvider(provider);
+    else if (node)
+        node->Destroy();
+    else if (provider)
+        AppendCData(provider);
+}
+
+// ---- attributes
+
+CXMLAttribute* CXMLElement::LastAttribute() const
+{
+    CXMLAttribute* attribute = mFirstAttribute;
+    while (attribute && attribute->mNext)
+        attribute = attribute->mNext;
+    return attribute;
+}
+
+CXMLAttribute* CXMLElement::AppendAttribute(CXMLAttribute* last, const SXMLName* name,
+                                            std::string_view value)
+{
+    CXMLStore& store = Store();
+    auto* attribute = store.New<CXMLAttribute>(name, store.NewText(value));
+    store.nbBad += name->isBad;
+    (last ? last->mNext : mFirstAttribute) = attribute;
+    return attribute;
+}
+
+XIXMLAttribute* CXMLElement::AddAttribute(XCXMLKey key, const char* value)
+{
+    if (IsRoot())
+        throw std::runtime_error("The root of a tree has no attributes");
+    if (XIXMLAttribute* present = FindAttribute(key)) {
+        present->SetValue(value);
+        return present;
+    }
+    return AppendAttribute(LastAttribute(), Store().names.Resolve(key), textOrEmpty(value));
+}
+
+XIXMLAttribute* CXMLElement::FindAttribute(XCXMLKey key) const
+{
+    const SXMLName* name = Store().names.Find(key);
+    CXMLAttribute* attribute = name ? mFirstAttribute : nullptr;
+    while (attribute && attribute->mName != name)
+        attribute = attribute->mNext;
+    return attribute;
+}
+
+bool CXMLElement::RemoveAttribute(XCXMLKey key)
+{
+    CXMLStore& store = Store();
+    const SXMLName* name = store.names.Find(key);
+    bool isRemoved = false;
+    for (CXMLAttribute** link = &mFirstAttribute; CXMLAttribute* attribute = *link;) {
+        if (attribute->mName != name) {
+            link = &attribute->mNext;
+            continue;
+        }
+        *link = attribute->mNext;
+        attribute->Release(store);
+        isRemoved = true;
+    }
+    return isRemoved;
+}
+
+// ---- the element itself
+
+XCXMLKey CXMLElement::MakeKey(const char* name) const
+{
+    return CXMLNames::KeyOf(Store().names.Intern(textOrEmpty(name)));
+}
+
+void CXMLElement::SetKey(XCXMLKey key)
+{
+    if (IsRoot())
+        throw std::runtime_error("The root of a tree has no name");
+    const SXMLName* name = Store().names.Resolve(key);
+    Store().nbBad += name->isBadElement();
+    Store().nbBad -= mName->isBadElement();
+    mName = name;
+}
+
+const char* CXMLElement::GetText() const
+{
+    const CXMLNode* text = FirstOf(EKind::Text);
+    return text ? text->GetText() : "";
+}
+
+void CXMLElement::SetText(const char* text)
+{
+    if (CXMLNode* node = FirstOf(EKind::Text))
+        node->SetText(text);
+    else
+        AddText(text);
+}
+
+void CXMLElement::Destroy()
+{
+    if (!IsRoot())
+        return CXMLNode::Destroy();
+    while (mFirst)
+        mFirst->Destroy();
+}
+
+CXMLNode* CXMLElement::Copy(CXMLStore& store) const
+{
+    auto* copy = store.New<CXMLElement>(store.names.Resolve(GetKey()));
+    store.nbBad += copy->mName->isBadElement();
+    CXMLAttribute* last = nullptr;
+    for (const CXMLAttribute* from = mFirstAttribute; from; from = from->mNext)
+        last = copy->AppendAttribute(last, store.names.Resolve(from->GetKey()), from->mValue);
+    return copy;
+}
+
+void CXMLElement::Release(CXMLStore& store)
+{
+    while (CXMLAttribute* attribute = mFirstAttribute) {
+        mFirstAttribute = attribute->mNext;
+        attribute->Release(store);
+    }
+    store.nbBad -= mName->isBadElement();
+    store.pool.Free(this, sizeof *this);
+}
+
+} // namespace OrvaneXML

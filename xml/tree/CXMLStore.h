@@ -1,0 +1,64 @@
+#pragma once
+
+#include "xml/tree/CXMLNames.h"
+#include "xml/tree/CXMLNodePool.h"
+
+#include <cstddef>
+#include <cstring>
+#include <string_view>
+#include <utility>
+
+namespace OrvaneXML {
+
+class CXMLCDataNode;
+class CXMLElement;
+
+/// What the nodes of one tree share. Every node finds it through the name of an element.
+struct CXMLStore {
+    CXMLStore() = default;
+    CXMLStore(const CXMLStore&) = delete;
+    CXMLStore& operator=(const CXMLStore&) = delete;
+
+    CXMLNodePool pool;
+    CXMLNames names{*this};
+    CXMLElement* root = nullptr;
+    CXMLCDataNode* sections =
+        nullptr;           ///< all CDATA nodes, since their providers are not pool memory
+    std::size_t nbBad = 0; ///< names, comments and instructions that XML cannot hold
+
+    template <class T, class... TArguments>
+    T* New(TArguments&&... arguments)
+    {
+        return new (pool.Allocate(sizeof(T))) T(std::forward<TArguments>(arguments)...);
+    }
+
+    /// Texts are NUL-terminated. The empty one takes no memory.
+    const char* NewText(std::string_view text)
+    {
+        if (text.empty())
+            return "";
+        auto* copy = static_cast<char*>(pool.Allocate(text.size() + 1));
+        std::memcpy(copy, text.data(), text.size());
+        copy[text.size()] = 0;
+        return copy;
+    }
+    void FreeText(const char* text)
+    {
+        if (*text)
+            pool.Free(const_cast<char*>(text), std::strlen(text) + 1);
+    }
+    void ReplaceText(const char*& text, std::string_view with)
+    {
+        const char* copy = NewText(with); // first, since `with` may be a part of the old text
+        FreeText(text);
+        text = copy;
+    }
+};
+
+/// Null counts as the empty text everywhere.
+inline const char* textOrEmpty(const char* text)
+{
+    return text ? text : "";
+}
+
+} // namespace OrvaneXML

@@ -1,0 +1,122 @@
+#include "xml/tree/CXMLTreeBuilder.h"
+
+#include "xml/tree/CXMLCommentNode.h"
+#include "xml/tree/CXMLInstructionNode.h"
+#include "xml/tree/CXMLOpaqueCData.h"
+#include "xml/tree/CXMLSectionStream.h"
+
+#include <memory>
+#include <utility>
+
+namespace OrvaneXML {
+
+void CXMLTreeBuilder::Run()
+{
+    using EToken = CXMLScanner::EToken;
+    for (;;) {
+        switch (mScanner.Next()) {
+        case EToken::End:
+            return;
+        case EToken::StartTag:
+            Start();
+            break;
+        case EToken::EndTag:
+            End();
+            break;
+        case EToken::Text:
+            AddText();
+            break;
+        case EToken::Comment:
+            FlushText(nullptr);
+            mCurrent->Append(CXMLCommentNode::Make(mCurrent->Store(), mScanner.Text()));
+            break;
+        case EToken::Instruction:
+            FlushText(nullptr);
+            mCurrent->Append(CXMLInstructionNode::Make(
+                mCurrent->Store(), mCurrent->Store().names.Intern(mScanner.Name()),
+                mScanner.Text()));
+            break;
+        case EToken::CData:
+            Section();
+            break;
+        }
+    }
+}
+
+void CXMLTreeBuilder::Start()
+{
+    if (!mOpen.empty() && !mOpen.back().hasElements)
+        DropWhite();
+    FlushText(nullptr);
+    CXMLNames& names = mCurrent->Store().names;
+    mCurrent = mCurrent->AppendElement(mScanner.Name());
+    mOpen.push_back({mWhite.size(), false});
+    CXMLAttribute* last = nullptr;
+    for (std::size_t i = 0; i < mScanner.NbAttributes(); ++i)
+        last = mCurrent->AppendAttribute(last, names.Intern(mScanner.AttributeName(i)),
+                                         mScanner.AttributeValue(i));
+}
+
+void CXMLTreeBuilder::End()
+{
+    FlushText(nullptr);
+    mWhite.resize(mOpen.back().nbWhite);
+    mOpen.pop_back();
+    mCurrent = mCurrent->ParentElement();
+}
+
+/// The first child element makes the white space in front of it meaningless.
+void CXMLTreeBuilder::DropWhite()
+{
+    SOpen& open = mOpen.back();
+    open.hasElements = true;
+    for (; mWhite.size() > open.nbWhite; mWhite.pop_back())
+        mWhite.back()->Destroy();
+}
+
+void CXMLTreeBuilder::AddText()
+{
+    mText += mScanner.Text();
+    mIsWhite = mIsWhite && mScanner.IsWhite();
+}
+
+void CXMLTreeBuilder::FlushText(CXMLNode* before)
+{
+    if (mText.empty())
+        return;
+    if (!mIsWhite || !mOpen.back().hasElements) {
+        CXMLNode* node = mCurrent->InsertText(mText, before);
+        if (mIsWhite)
+            mWhite.push_back(node);
+    }
+    mText.clear();
+    mIsWhite = true;
+}
+
+void CXMLTreeBuilder::Section()
+{
+    if (!mReader)
+        return KeepSection();
+    CXMLNode* last = mCurrent->LastChild();
+    CXMLSectionStream stream(mScanner);
+    const bool isTaken = mReader->ReadCData(mCurrent, &stream);
+    CXMLNode* added = last ? last->Next() : mCurrent->FirstChild();
+    if (added)
+        FlushText(added);
+    if (!isTaken && !stream.IsTouched())
+        KeepSection();
+}
+
+void CXMLTreeBuilder::KeepSection()
+{
+    FlushText(nullptr);
+    std::string bytes;
+    char piece[16 * 1024];
+    while (const std::uint32_t nb = mScanner.ReadSection(piece, sizeof piece))
+        bytes.append(piece, nb);
+    auto provider = std::make_unique<CXMLOpaqueCData>(std::move(bytes));
+    mCurrent->AppendCData(provider.get());
+    provider.release();
+}
+
+} // namespace OrvaneXML

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "xml/tree/CXMLElement.h"
+#include "xml/tree/CXMLScanner.h"
+#include "xml/tree/IXMLCDataReader.h"
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace OrvaneXML {
+
+/// One reading of a document into the root of an empty tree.
+class CXMLTreeBuilder {
+public:
+    CXMLTreeBuilder(CXMLElement& root, IXMLCDataReader* reader, XIXMLReadStream& stream)
+        : mScanner(stream), mReader(reader), mCurrent(&root)
+    {
+    }
+
+    void Run();
+
+private:
+    struct SOpen {
+        std::size_t nbWhite; // of the elements around
+        bool hasElements;
+    };
+
+    void Start();
+    void End();
+    void AddText();
+    void FlushText(CXMLNode* before);
+    void DropWhite();
+    void Section();
+    void KeepSection();
+
+    CXMLScanner mScanner;
+    IXMLCDataReader* mReader;
+    CXMLElement* mCurrent;
+    std::vector<SOpen> mOpen; // one for each open element
+
+    // A text is complete only when a node follows it, since skipped sections leave no gap.
+    std::string mText;
+    bool mIsWhite = true;
+    std::vector<CXMLNode*>
+        mWhite; // nodes that go if their element turns out to have child elements
+};
+
+} // namespace OrvaneXML

@@ -1,0 +1,233 @@
+#include "xml/tree/CXMLWriter.h"
+
+#include "xml/tree/CXMLCDataNode.h"
+#include "xml/tree/CXMLElement.h"
+
+#include <array>
+#include <charconv>
+#include <cstring>
+
+namespace OrvaneXML {
+
+namespace {
+
+enum : unsigned { kStopsText = 1, kStopsValue = 2 };
+
+/// What cannot stand in a text or in a value as it is; NUL ends both.
+constexpr std::array<unsigned char, 256> makeStops()
+{
+    std::array<unsigned char, 256> stops{};
+    for (unsigned c = 0; c < ' '; ++c)
+        stops[c] = kStopsText | kStopsValue;
+    stops['\t'] = stops['\n'] = kStopsValue;
+    for (char c : {'&', '<', '>', '"', '\x7F'})
+        stops[static_cast<unsigned char>(c)] = kStopsText | kStopsValue;
+    return stops;
+}
+
+constexpr auto kStops = makeStops();
+
+bool isWhite(const char* text)
+{
+    return text[std::strspn(text, " \t\r\n")] == 0;
+}
+
+bool isText(const CXMLNode* node)
+{
+    return node && node->Kind() == CXMLNode::EKind::Text;
+}
+
+/// Neighbouring texts read back as one, so they count as one.
+bool isWhiteRun(const CXMLNode* node)
+{
+    for (; isText(node); node = node->Next())
+        if (!isWhite(node->GetText()))
+            return false;
+    return true;
+}
+
+struct SContent {
+    bool isEmpty = true;
+    bool hasElements = false;
+    bool hasText = false;
+};
+
+SContent contentOf(const CXMLElement& element)
+{
+    SContent content;
+    for (const CXMLNode* node = element.FirstChild(); node; node = node->Next()) {
+        const CXMLNode::EKind kind = node->Kind();
+        if (kind == CXMLNode::EKind::Text && !*node->GetText())
+            continue; // nothing to be seen of it
+        content.isEmpty = false;
+        content.hasElements |= kind == CXMLNode::EKind::Element;
+        content.hasText |= kind == CXMLNode::EKind::Text || kind == CXMLNode::EKind::CData;
+        if (content.hasElements && content.hasText)
+            break;
+    }
+    return content;
+}
+
+} // namespace
+
+bool CXMLWriter::Write(const CXMLElement& root)
+{
+    CXMLNode* node = root.FirstChild();
+    if (!node)
+        return true;
+    for (;;) {
+        if (!isText(node)) // beside a text there are no lines, and an empty one is not seen
+            NewLine();
+        auto* element =
+            static_cast<CXMLElement*>(node->Kind() == CXMLNode::EKind::Element ? node : nullptr);
+        if (element ? Open(*element) : (Node(*node), false)) {
+            node = element->FirstChild();
+            continue;
+        }
+        while (!node->Next() && node->ParentElement() != &root) {
+            node = node->ParentElement();
+            Close(static_cast<CXMLElement&>(*node));
+        }
+        if (!node->Next())
+            break;
+        node = node->Next();
+    }
+    mOut.Put('\n');
+    mOut.Flush();
+    return mIsComplete;
+}
+
+void CXMLWriter::NewLine()
+{
+    if (mInlineDepth != kNowhere)
+        return;
+    if (mIsStarted)
+        mOut.Put('\n');
+    mIsStarted = true;
+    for (std::size_t i = 0; i < mHasElements.size(); ++i)
+        mOut.Put('\t');
+}
+
+void CXMLWriter::Node(CXMLNode& node)
+{
+    switch (node.Kind()) {
+    case CXMLNode::EKind::Text:
+        return Text(node);
+    case CXMLNode::EKind::Comment:
+        return Comment(node.GetText());
+    case CXMLNode::EKind::Instruction:
+        return Instruction(node);
+    case CXMLNode::EKind::CData:
+        return Section(static_cast<CXMLCDataNode&>(node));
+    case CXMLNode::EKind::Element:
+        break; // has its own way, through Open and Close
+    }
+}
+
+/// True if the element is open now and its children come next.
+bool CXMLWriter::Open(const CXMLElement& element)
+{
+    mKeepNext = false;
+    mOut.Put('<');
+    mOut.Put(element.Name()->view());
+    for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
+        mOut.Put(' ');
+        mOut.Put(item->Name()->view());
+        mOut.Put("=\"");
+        Escaped(item->GetValue(), kStopsValue);
+        mOut.Put('"');
+    }
+    const SContent content = contentOf(element);
+    mOut.Put(content.isEmpty ? "/>" : ">");
+    if (content.isEmpty)
+        return false;
+    if (mInlineDepth == kNowhere && (content.hasText || !content.hasElements))
+        mInlineDepth = mHasElements.size();
+    mHasElements.push_back(content.hasElements);
+    return true;
+}
+
+void CXMLWriter::Close(const CXMLElement& element)
+{
+    mHasElements.pop_back();
+    NewLine();
+    if (mInlineDepth == mHasElements.size())
+        mInlineDepth = kNowhere;
+    mOut.Put("</");
+    mOut.Put(element.Name()->view());
+    mOut.Put('>');
+}
+
+void CXMLWriter::Text(const CXMLNode& node)
+{
+    if (!isText(node.Previous()))
+        mKeepNext = mHasElements.back() && isWhiteRun(&node);
+    Escaped(node.GetText(), kStopsText);
+}
+
+void CXMLWriter::Comment(std::string_view text)
+{
+    mOut.Put("<!--");
+    mOut.Put(text);
+    mOut.Put(!text.empty() && text.back() == '-' ? " -->" : "-->");
+}
+
+void CXMLWriter::Instruction(CXMLNode& node)
+{
+    const XIXMLInstruction& view = *node.AsInstruction();
+    mOut.Put("<?");
+    mOut.Put(view.GetTarget());
+    if (*view.GetContent())
+        mOut.Put(' ');
+    mOut.Put(view.GetContent());
+    mOut.Put("?>");
+}
+
+void CXMLWriter::Section(CXMLCDataNode& node)
+{
+    mOut.Put("<![CDATA[");
+    if (!node.Provider()->Write(&mOut, nullptr, &node))
+        mIsComplete = false;
+    mOut.Put("]]>");
+}
+
+void CXMLWriter::Escaped(const char* text, unsigned which)
+{
+    if (mKeepNext && *text) {
+        Reference(*text++);
+        mKeepNext = false;
+    }
+    for (;;) {
+        const char* stop = text;
+        while (!(kStops[static_cast<unsigned char>(*stop)] & which))
+            ++stop;
+        mOut.Put({text, static_cast<std::size_t>(stop - text)});
+        if (!*stop)
+            return;
+        Reference(*stop);
+        text = stop + 1;
+    }
+}
+
+void CXMLWriter::Reference(char c)
+{
+    switch (c) {
+    case '&':
+        return mOut.Put("&amp;");
+    case '<':
+        return mOut.Put("&lt;");
+    case '>':
+        return mOut.Put("&gt;");
+    case '"':
+        return mOut.Put("&quot;");
+    default:
+        break;
+    }
+    char digits[4];
+    char* end = std::to_chars(digits, digits + sizeof digits, static_cast<unsigned char>(c)).ptr;
+    mOut.Put("&#");
+    mOut.Put({digits, static_cast<std::size_t>(end - digits)});
+    mOut.Put(';');
+}
+
+} // namespace OrvaneXML
