@@ -1,0 +1,199 @@
+#include "geometry/CFastReader.h"
+
+#include "core/CZelMgrRef.h"
+#include "core/OvThrow.h"
+#include "geometry/CPolygon.h"
+#include "geometry/kRoomAhead.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace OvZel {
+
+namespace {
+
+/// Stands for numbers that are not finite.
+constexpr double kBeyond = 1e30;
+
+bool isBlank(int c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+/// The value of a digit; 10 or more for everything else, the end of the stream included.
+unsigned digitOf(int c)
+{
+    return static_cast<unsigned>(c) - '0';
+}
+
+int lower(int c)
+{
+    return c >= 'A' && c <= 'Z' ? c - 'A' + 'a' : c;
+}
+
+[[noreturn]] void failNoNumber()
+{
+    throw std::runtime_error("This is not a number");
+}
+
+// A number is scanned twice in the rare case that it isn't whole in the reader's window. The first
+// scan runs over the window without asking for its end, since the NUL behind it ends every loop;
+// the second one takes the characters from the reader.
+
+struct CWindow {
+    const char* position;
+
+    int ReadChar() { return static_cast<unsigned char>(*position++); }
+};
+
+template <class Source>
+int nextSolid(Source& in)
+{
+    int c = in.ReadChar();
+    while (isBlank(c))
+        c = in.ReadChar();
+    return c;
+}
+
+/// Blanks are allowed in front of the sign and behind it.
+template <class Source>
+int nextOfNumber(Source& in, bool& negative)
+{
+    const int c = nextSolid(in);
+    negative = c == '-';
+    return c == '+' || c == '-' ? nextSolid(in) : c;
+}
+
+template <class Source>
+bool scanInteger(Source& in, std::int32_t& result)
+{
+    bool negative = false;
+    int c = nextOfNumber(in, negative);
+    if (digitOf(c) > 9)
+        return false;
+    std::uint32_t value = 0;
+    for (; digitOf(c) <= 9; c = in.ReadChar())
+        value = value * 10 + digitOf(c);
+    if (c == '.')
+        throw std::runtime_error("This is not a integer");
+    result = static_cast<std::int32_t>(negative ? 0 - value : value);
+    return true;
+}
+
+template <class Source>
+double scanFraction(Source& in, double value)
+{
+    double weight = 0.1;
+    for (int c = in.ReadChar(); digitOf(c) <= 9; c = in.ReadChar()) {
+        value += digitOf(c) * weight;
+        weight *= 0.1;
+    }
+    return value;
+}
+
+/// False when neither a digit nor a point comes; c is then what came behind the sign.
+template <class Source>
+bool scanDouble(Source& in, double& value, bool& negative, int& c)
+{
+    c = nextOfNumber(in, negative);
+    if (digitOf(c) > 9 && c != '.')
+        return false;
+    value = 0.0;
+    for (; digitOf(c) <= 9; c = in.ReadChar())
+        value = value * 10.0 + digitOf(c);
+    if (c == '.')
+        value = scanFraction(in, value);
+    return true;
+}
+
+} // namespace
+
+std::int32_t CFastReader::readInteger()
+{
+    std::int32_t value = 0;
+    CWindow window{mIn.Begin()};
+    if (scanInteger(window, value) && consume(window.position))
+        return value;
+    if (!scanInteger(mIn, value))
+        failNoNumber();
+    return value;
+}
+
+double CFastReader::readDouble()
+{
+    double value = 0.0;
+    bool negative = false;
+    int c = 0;
+    CWindow window{mIn.Begin()};
+    const bool whole = scanDouble(window, value, negative, c) && consume(window.position);
+    if (!whole && !scanDouble(mIn, value, negative, c))
+        value = readWord(c);
+    return negative ? -value : value;
+}
+
+double CFastReader::readWord(int first)
+{
+    const bool nan = lower(first) == 'n';
+    if (!nan && lower(first) != 'i')
+        failNoNumber();
+    const char* rest = nan ? "an" : "nf";
+    for (int i = 0; i < 2; ++i)
+        if (lower(mIn.ReadChar()) != rest[i])
+            failNoNumber();
+    mMgrRef.warning(nan ? "NaN double." : "INF double.");
+    return kBeyond;
+}
+
+void CFastReader::readPoint(double (&xyz)[3])
+{
+    for (double& coordinate : xyz)
+        coordinate = readDouble();
+}
+
+void CFastReader::readLoop(TSimpleMgr<CZelVertex>& vertices)
+{
+    const std::int32_t count = readInteger();
+    for (std::int32_t i = 0; i < count; ++i) {
+        CZelVertex* vertex = vertices.append();
+        OvThrow::IfNULL(vertex);
+        readVertex(*vertex);
+    }
+}
+
+void CFastReader::readVertex(CZelVertex& vertex)
+{
+    int c = nextSolid(mIn);
+    if (c == 'I') {
+        vertex.flags |= CZelVertex::kFlagI;
+        c = nextSolid(mIn);
+    }
+    if (c == 'M') {
+        vertex.flags |= CZelVertex::kFlagM;
+        vertex.u = static_cast<float>(readDouble());
+        vertex.v = static_cast<float>(readDouble());
+    } else if (c >= 0) {
+        mIn.UnRead();
+    }
+    vertex.pointIndex = readInteger();
+}
+
+void CFastReader::readPolygon(CPolygon& polygon)
+{
+    const int kind = nextSolid(mIn);
+    if (kind != 'o' && kind != 'p' && kind != 'h')
+        mMgrRef.warning("Polygon type unknown");
+    polygon.setMaterial(readInteger());
+    polygon.setSmooth(kind == 'o');
+    const std::int32_t loops = kind == 'h' ? readInteger() : 1;
+    readLoop(polygon.vertices().manager());
+    if (loops <= 1)
+        return;
+    polygon.holes().reserve(std::min(loops - 1, kRoomAhead));
+    for (std::int32_t i = 1; i < loops; ++i) {
+        CLoop* hole = polygon.holes().append();
+        OvThrow::IfNULL(hole);
+        readLoop(hole->vertices().manager());
+    }
+}
+
+} // namespace OvZel

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "core/TZelFrontierObjLinkRef.h"
+
+#include <zel/IZelQuad.h>
+
+#include <algorithm>
+#include <array>
+
+namespace OvZel {
+
+/// One triangle of a billboard.
+class CZelQuad : public TZelFrontierObjLinkRef<IZelQuad> {
+public:
+    explicit CZelQuad(IZelObjectLinkRef* owner) : TZelFrontierObjLinkRef(owner) {}
+
+    const double* getTriangle() const override { return mTriangle.data(); }
+    void setTriangle(const double* triangle) override
+    {
+        std::copy_n(triangle, mTriangle.size(), mTriangle.begin());
+    }
+    std::int64_t getQuadId() const override { return mQuadId; }
+    void setQuadId(std::int64_t id) override { mQuadId = id; }
+
+private:
+    std::array<double, 9> mTriangle{};
+    std::int64_t mQuadId = -1;
+};
+
+} // namespace OvZel

@@ -1,0 +1,43 @@
+#include "geometry/geometryWriter.h"
+
+#include "core/OvThrow.h"
+#include "xml/IBlockHost.h"
+
+#include <zel/xml/XIXMLElement.h>
+
+#include <stdexcept>
+
+namespace OvZel {
+
+namespace {
+
+CZelUUID componentId(OrvaneXML::XIXMLData* node, const char* nullIdText)
+{
+    OvThrow::IfNULL(node);
+    OrvaneXML::XIXMLElement* section = node->GetParent();
+    OvThrow::IfNULL(section);
+    OrvaneXML::XIXMLElement* owner = section->GetNode()->GetParent();
+    if (owner == nullptr)
+        return {};
+    const OrvaneXML::XIXMLAttribute* attribute = owner->FindAttribute(owner->MakeKey("UUID"));
+    if (attribute == nullptr)
+        return {};
+    const CZelUUID id(attribute->GetValue());
+    if (id.isNull())
+        throw std::runtime_error(nullIdText);
+    return id;
+}
+
+} // namespace
+
+std::unique_ptr<IZelExtStorageWriter::IWriter>
+geometryWriter(IBlockHost& host, OrvaneXML::XIXMLData* node, const char* nullIdText)
+{
+    const CZelUUID id = componentId(node, nullIdText);
+    IZelExtStorageWriter* storage = host.storageWriter();
+    if (storage == nullptr)
+        throw std::runtime_error("CZEL::getGeometryWriter - No external geometry reader set");
+    return std::unique_ptr<IZelExtStorageWriter::IWriter>(storage->createGeometryWriter(&id));
+}
+
+} // namespace OvZel

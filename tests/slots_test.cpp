@@ -1,0 +1,289 @@
+#include "tests/support/vtable.h"
+
+#include <zel/IZelMgr.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+using namespace OvZel;
+using ZelTest::slotOf;
+
+// Compiled clients call operations by these numbers. A change here breaks every one of them.
+
+namespace {
+
+struct CSlot {
+    const char* name;
+    std::ptrdiff_t slot;
+};
+
+/// The operations follow each other from the first slot on, without a gap.
+void expectOrder(std::ptrdiff_t first, const std::vector<CSlot>& slots)
+{
+    for (const CSlot& entry : slots)
+        EXPECT_EQ(entry.slot, first++) << entry.name;
+}
+
+} // namespace
+
+#define AT(operation)                                                                              \
+    CSlot                                                                                          \
+    {                                                                                              \
+#operation, slotOf(&operation)                                                             \
+    }
+#define CONST_AT(result, operation)                                                                \
+    CSlot                                                                                          \
+    {                                                                                              \
+#operation " const", slotOf < result() const>(&operation)                                  \
+    }
+#define OTHER_AT(result, operation)                                                                \
+    CSlot                                                                                          \
+    {                                                                                              \
+#operation, slotOf < result()>(&operation)                                                 \
+    }
+
+TEST(Slots, IUnknown)
+{
+    expectOrder(0, {AT(IUnknown::QueryInterface), AT(IUnknown::AddRef), AT(IUnknown::Release)});
+}
+
+TEST(Slots, IZelBasicHasItsDestructorIn3And4)
+{
+    expectOrder(0, {AT(IZelBasic::QueryInterface), AT(IZelBasic::AddRef), AT(IZelBasic::Release)});
+    expectOrder(5, {AT(IZelBasic::getObjectLink), AT(IZelBasic::getBasicData)});
+}
+
+TEST(Slots, IZelObjectLink)
+{
+    expectOrder(0, {AT(IZelObjectLink::getMgrRef), AT(IZelObjectLink::getOwnerLink),
+                    AT(IZelObjectLink::getCOMWeakPtr), AT(IZelObjectLink::getSelfWeakPtr)});
+}
+
+TEST(Slots, IZelSharedPtrBase)
+{
+    expectOrder(0, {AT(IZelSharedPtrBase::addRef), AT(IZelSharedPtrBase::release),
+                    AT(IZelSharedPtrBase::addWeakRef), AT(IZelSharedPtrBase::releaseWeakRef),
+                    AT(IZelSharedPtrBase::detachRef), AT(IZelSharedPtrBase::resetPtr)});
+}
+
+TEST(Slots, IZelBasicData)
+{
+    using OrvaneXML::XIXMLElement;
+    expectOrder(0, {AT(IZelBasicData::putInXML), AT(IZelBasicData::initWithXML),
+                    AT(IZelBasicData::getId), AT(IZelBasicData::setId), AT(IZelBasicData::getName),
+                    AT(IZelBasicData::setName), OTHER_AT(XIXMLElement*, IZelBasicData::getUserXML),
+                    CONST_AT(const XIXMLElement*, IZelBasicData::getUserXML),
+                    AT(IZelBasicData::getUserData), AT(IZelBasicData::setUserData),
+                    AT(IZelBasicData::getUIValue), AT(IZelBasicData::setUIValue),
+                    AT(IZelBasicData::getWarningTarget)});
+}
+
+TEST(Slots, IZelXML)
+{
+    expectOrder(0, {AT(IZelXML::putInXML), AT(IZelXML::initWithXML)});
+}
+
+TEST(Slots, IZelWarning)
+{
+    expectOrder(0, {AT(IZelWarning::warning), AT(IZelWarning::exceptionWarning),
+                    AT(IZelWarning::unknownExceptionWarning)});
+}
+
+TEST(Slots, Managers)
+{
+    using TPoints = TZelObjectMgr<CZelPoint>;
+    expectOrder(7, {AT(IZelObjectMgrBase::getObjectIID), AT(IZelObjectMgrBase::getNbObjects),
+                    AT(IZelObjectMgrBase::removeObject), AT(IZelObjectMgrBase::moveObject),
+                    AT(IZelObjectMgrBase::removeAllObjects), AT(IZelObjectMgrBase::reserve),
+                    AT(TPoints::getZelObject), AT(TPoints::newZelObject)});
+}
+
+TEST(Slots, IZelMgrRef)
+{
+    expectOrder(0, {AT(IZelMgrRef::QueryInterface), AT(IZelMgrRef::AddRef), AT(IZelMgrRef::Release),
+                    AT(IZelMgrRef::getMgr), AT(IZelMgrRef::getLanguage),
+                    AT(IZelMgrRef::setLanguage), AT(IZelMgrRef::getMatrix),
+                    AT(IZelMgrRef::setMatrix), AT(IZelMgrRef::transformNormal),
+                    AT(IZelMgrRef::transformVector), AT(IZelMgrRef::transformPoint)});
+}
+
+TEST(Slots, IZelMgr)
+{
+    const std::vector<CSlot> slots = {
+        AT(IZelMgr::setApplication),
+        AT(IZelMgr::getApplicationName),
+        AT(IZelMgr::getApplicationVersion),
+        AT(IZelMgr::getFileInfo),
+        AT(IZelMgr::getFileInfo2),
+        AT(IZelMgr::getMgrEx),
+        AT(IZelMgr::getLibraryVersion),
+        AT(IZelMgr::read),
+        AT(IZelMgr::write),
+        AT(IZelMgr::getFileVersion),
+        AT(IZelMgr::getCameras),
+        AT(IZelMgr::getPolygons),
+        AT(IZelMgr::getPoints),
+        AT(IZelMgr::getProperties),
+        AT(IZelMgr::getLights),
+        AT(IZelMgr::getViewObjects),
+        AT(IZelMgr::getParallelViews),
+        AT(IZelMgr::getHeliodons),
+        AT(IZelMgr::getLightsGroups),
+        AT(IZelMgr::getPreviewImage),
+        AT(IZelMgr::getImages),
+        AT(IZelMgr::getObjectDefinition),
+        AT(IZelMgr::getObjectInstances),
+        AT(IZelMgr::getLanguage),
+        AT(IZelMgr::setLanguage),
+        AT(IZelMgr::getComment),
+        AT(IZelMgr::setComment),
+        AT(IZelMgr::getURL),
+        AT(IZelMgr::setURL),
+        AT(IZelMgr::getApplicationData),
+        AT(IZelMgr::getScenarios),
+        AT(IZelMgr::get3DPaths),
+        AT(IZelMgr::getEnvironments),
+        AT(IZelMgr::getGrounds),
+        AT(IZelMgr::getLayers),
+        AT(IZelMgr::getLayers2),
+        AT(IZelMgr::getLayerInfo),
+        AT(IZelMgr::getDefinitions),
+        AT(IZelMgr::setExtStorageWriter),
+        AT(IZelMgr::readCData),
+        AT(IZelMgr::writeVersion),
+        AT(IZelMgr::readMediaInfo),
+        AT(IZelMgr::getPanoramas),
+        AT(IZelMgr::getMatrix),
+        AT(IZelMgr::setMatrix),
+        AT(IZelMgr::getExternalDefinitions),
+    };
+    // 55 operations with the six of IZelBasic and the three obsolete ones.
+    EXPECT_EQ(slots.size() + 6 + 3, 55u);
+    expectOrder(7, slots);
+}
+
+TEST(Slots, IZelMgrEx)
+{
+    expectOrder(0, {AT(IZelMgrEx::getAnimations), AT(IZelMgrEx::getBillboards),
+                    AT(IZelMgrEx::readShader), AT(IZelMgrEx::writeShader),
+                    AT(IZelMgrEx::getWorkingViews), AT(IZelMgrEx::newShader),
+                    AT(IZelMgrEx::removeShader), AT(IZelMgrEx::getRenderParameters),
+                    AT(IZelMgrEx::getSaveVersion)});
+}
+
+TEST(Slots, IZelString)
+{
+    expectOrder(0, {AT(IZelString::copyFrom), AT(IZelString::getText),
+                    AT(IZelString::getCurrentText), AT(IZelString::setText),
+                    AT(IZelString::setCurrentText), AT(IZelString::getNbTexts),
+                    AT(IZelString::getLanguageKey), AT(IZelString::clear)});
+}
+
+TEST(Slots, IZelTime)
+{
+    expectOrder(0, {AT(IZelTime::getMonth), AT(IZelTime::setMonth), AT(IZelTime::getDay),
+                    AT(IZelTime::setDay), AT(IZelTime::getHour), AT(IZelTime::setHour),
+                    AT(IZelTime::getMinute), AT(IZelTime::setMinute), AT(IZelTime::getYear),
+                    AT(IZelTime::setYear)});
+}
+
+TEST(Slots, IZelPlace)
+{
+    expectOrder(0, {AT(IZelPlace::getLongitude), AT(IZelPlace::setLongitude),
+                    AT(IZelPlace::getLatitude), AT(IZelPlace::setLatitude),
+                    AT(IZelPlace::getTimeZone), AT(IZelPlace::setTimeZone),
+                    AT(IZelPlace::getDaylight), AT(IZelPlace::setDaylight)});
+}
+
+TEST(Slots, IZelImage)
+{
+    expectOrder(7, {AT(IZelImage::getImage), AT(IZelImage::setImage), AT(IZelImage::getId),
+                    AT(IZelImage::setId)});
+}
+
+TEST(Slots, IZelFileInfo)
+{
+    expectOrder(7, {AT(IZelFileInfo::getOrigin), AT(IZelFileInfo::setOrigin)});
+}
+
+TEST(Slots, ITable)
+{
+    expectOrder(7, {AT(ITable::getLength), AT(ITable::setLength), AT(ITable::getValue),
+                    AT(ITable::setValue), AT(ITable::copyFrom)});
+}
+
+TEST(Slots, IZelPolygon)
+{
+    expectOrder(0, {AT(IZelPolygon::copy), AT(IZelPolygon::isSmooth), AT(IZelPolygon::setSmooth),
+                    AT(IZelPolygon::getMaterial), AT(IZelPolygon::setMaterial),
+                    AT(IZelPolygon::getVertices), AT(IZelPolygon::getHoles)});
+}
+
+TEST(Slots, IZelHole)
+{
+    using TVertices = TZelObjectMgr<CZelVertex>;
+    using IZelHole = IZelPolygon::IZelHole;
+    expectOrder(0, {CONST_AT(const TVertices*, IZelHole::getVertices),
+                    OTHER_AT(TVertices*, IZelHole::getVertices)});
+}
+
+TEST(Slots, IZelQuad)
+{
+    expectOrder(0, {AT(IZelQuad::getTriangle), AT(IZelQuad::setTriangle), AT(IZelQuad::getQuadId),
+                    AT(IZelQuad::setQuadId)});
+    EXPECT_EQ(slotOf(&IZelQuad::getValue), -1) << "another name takes no slot";
+    EXPECT_EQ(slotOf(&IZelQuad::setValue), -1);
+}
+
+TEST(Slots, IZelZelObjectDefinitionHasItsOperationsInTheirFinalOrder)
+{
+    using IDefinition = IZelZelObjectDefinition;
+    using TPoints = TZelObjectMgr<CZelPoint>;
+    using TPolygons = TZelObjectMgr<IZelPolygon>;
+    const std::vector<CSlot> slots = {
+        CONST_AT(const IZelString*, IDefinition::getName),
+        OTHER_AT(IZelString*, IDefinition::getName),
+        CONST_AT(const TPoints*, IDefinition::getPoints),
+        OTHER_AT(TPoints*, IDefinition::getPoints),
+        CONST_AT(const TPolygons*, IDefinition::getPolygons),
+        OTHER_AT(TPolygons*, IDefinition::getPolygons),
+        AT(IDefinition::getGeometryLevel),
+        AT(IDefinition::setGeometryLevel),
+    };
+    expectOrder(7, slots);
+}
+
+TEST(Slots, Streams)
+{
+    expectOrder(0, {AT(IZelReadStream::read), AT(IZelReadStream::getPosition),
+                    AT(IZelReadStream::setPosition)});
+    expectOrder(0, {AT(IZelWriteStream::write)});
+}
+
+TEST(Slots, IZelFeedback)
+{
+    expectOrder(0, {AT(IZelFeedback::message), AT(IZelFeedback::progress)});
+}
+
+TEST(Slots, StoragesHaveTheDestructorsOfTheirBlocksFirst)
+{
+    using IReader = IZelExtStorageReader::IReader;
+    using IWriter = IZelExtStorageWriter::IWriter;
+    expectOrder(0, {AT(IZelExtStorageReader::createGeometryReader)});
+    expectOrder(2, {AT(IReader::setNbPoints), AT(IReader::setPoint), AT(IReader::setNbPolygons),
+                    AT(IReader::setPolygon)});
+    expectOrder(0, {AT(IZelExtStorageWriter::createGeometryWriter)});
+    expectOrder(2, {AT(IWriter::getNbPoints), AT(IWriter::getPoint), AT(IWriter::getNbPolygons),
+                    AT(IWriter::getPolygon)});
+}
+
+TEST(Slots, RecordsHaveTheirSizes)
+{
+    EXPECT_EQ(sizeof(CZelUUID), 16u);
+    EXPECT_EQ(sizeof(CZelPoint), 24u);
+    EXPECT_EQ(sizeof(CZelVertex), 16u);
+    EXPECT_EQ(sizeof(CZelVersion), 12u);
+    EXPECT_EQ(sizeof(EVersionZEL), 4u);
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <zel/IZelReadStream.h>
+
+#include <algorithm>
+#include <cstring>
+#include <stdexcept>
+#include <string>
+
+namespace ZelTest {
+
+/// A text as a client's stream.
+class CMemoryReadStream : public OvZel::IZelReadStream {
+public:
+    static constexpr std::size_t kWhole = std::string::npos;
+
+    explicit CMemoryReadStream(std::string content, std::size_t most = kWhole)
+        : text(std::move(content)), step(most)
+    {
+    }
+
+    std::uint32_t read(void* buffer, std::uint32_t size) override
+    {
+        if (position >= failsAt)
+            throw std::runtime_error("stream broke");
+        const std::size_t count = std::min({std::size_t{size}, step, text.size() - position});
+        std::memcpy(buffer, text.data() + position, count);
+        position += count;
+        return static_cast<std::uint32_t>(count);
+    }
+
+    std::int64_t getPosition() override { return static_cast<std::int64_t>(position); }
+    void setPosition(std::int64_t place) override { position = static_cast<std::size_t>(place); }
+
+    std::string text;
+    std::size_t position = 0;
+    std::size_t step;                        ///< at most so many bytes at once
+    std::size_t failsAt = std::string::npos; ///< throws from this position on
+};
+
+} // namespace ZelTest

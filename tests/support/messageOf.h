@@ -1,0 +1,16 @@
+#pragma once
+
+#include <exception>
+#include <string>
+
+/// The text of the standard exception that the action raises, "no exception" if it raises none.
+template <class Action>
+std::string messageOf(Action&& action)
+{
+    try {
+        action();
+    } catch (const std::exception& exception) {
+        return exception.what();
+    }
+    return "no exception";
+}
