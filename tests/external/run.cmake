@@ -1,0 +1,33 @@
+# Installs the build into a prefix of its own and builds the examples against what lies there, as
+# a stranger would: once by find_package, once by pkg-config. Both clients are then run.
+
+set(work ${BUILD_DIR}/external_client)
+set(prefix ${work}/prefix)
+file(REMOVE_RECURSE ${work})
+file(MAKE_DIRECTORY ${work})
+
+function(run)
+    execute_process(COMMAND ${ARGV} WORKING_DIRECTORY ${work} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+run(${CMAKE_COMMAND} --install ${BUILD_DIR} --prefix ${prefix})
+
+run(${CMAKE_COMMAND} -S ${EXAMPLES} -B ${work}/examples -G ${GENERATOR}
+    -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
+run(${CMAKE_COMMAND} --build ${work}/examples)
+run(${work}/examples/first_steps/first_steps ${work}/by_package.zel)
+
+set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+execute_process(COMMAND ${PKG_CONFIG} --cflags --libs zel
+    OUTPUT_VARIABLE package_flags OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+separate_arguments(package_flags UNIX_COMMAND "${package_flags}")
+separate_arguments(own_flags UNIX_COMMAND "${CXX_FLAGS}")
+run(${CXX} ${own_flags} -std=c++17 -Wall -Wextra -Wpedantic -Werror
+    ${EXAMPLES}/first_steps/main.cpp ${package_flags} -Wl,-rpath,${prefix}/${LIBDIR}
+    -o ${work}/by_pkg_config)
+run(${work}/by_pkg_config ${work}/by_pkg_config.zel)
+
+# The tool must find the library from where both were installed.
+if(EXISTS ${prefix}/bin/zel)
+    run(${prefix}/bin/zel info ${work}/by_package.zel)
+endif()
