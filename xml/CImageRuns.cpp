@@ -1,0 +1,111 @@
+#include "xml/CImageRuns.h"
+
+#include "core/OvThrow.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace OvZel {
+
+namespace {
+
+// The format word, read with the high byte first.
+constexpr std::uint32_t kBigEndian = 1;
+constexpr std::uint32_t kLittleEndian = 0x01000000;
+
+constexpr std::size_t kWordsAtATime = 256;
+
+} // namespace
+
+CImageRuns::CImageRuns(OrvaneXML::XIXMLReadStream& stream) : mReader(stream)
+{
+    readFormat();
+    mWidth = readNumber();
+    mHeight = readNumber();
+    const std::uint64_t nbPixels = std::uint64_t{mWidth} * mHeight;
+    if (nbPixels > trn_image_RGBAn8::kMaxPixels)
+        OvThrow::Signal("XCXMLImage::Read - Wrong data");
+    mNbPixels = static_cast<std::size_t>(nbPixels);
+    readRuns();
+}
+
+void CImageRuns::readFormat()
+{
+    const std::uint32_t format = readNumber();
+    if (format != kBigEndian && format != kLittleEndian)
+        OvThrow::Signal("Unknown format");
+    mLittleEndian = format == kLittleEndian;
+}
+
+void CImageRuns::readRuns()
+{
+    std::size_t nbLeft = mNbPixels;
+    while (nbLeft > 0) {
+        nbLeft -= readCount(nbLeft);
+        readPixels(1);
+        if (nbLeft == 0)
+            break;
+        const std::uint32_t nbLiterals = readCount(nbLeft);
+        readPixels(nbLiterals);
+        nbLeft -= nbLiterals;
+    }
+}
+
+std::uint32_t CImageRuns::readNumber()
+{
+    std::uint8_t b[4];
+    mReader.read(b, 1);
+    if (mLittleEndian)
+        std::reverse(b, b + 4);
+    return std::uint32_t{b[0]} << 24 | std::uint32_t{b[1]} << 16 | std::uint32_t{b[2]} << 8 | b[3];
+}
+
+std::uint32_t CImageRuns::readCount(std::size_t nbLeft)
+{
+    const std::uint32_t count = readNumber();
+    if (count > nbLeft)
+        OvThrow::Signal("XCXMLImage::Read - Wrong data");
+    mWords.push_back(count);
+    return count;
+}
+
+void CImageRuns::readPixels(std::size_t nb)
+{
+    while (nb > 0) {
+        std::uint8_t bytes[kWordsAtATime * 4];
+        std::uint32_t words[kWordsAtATime];
+        const std::size_t nbNow = std::min(nb, kWordsAtATime);
+        mReader.read(bytes, nbNow);
+        std::memcpy(words, bytes, nbNow * 4);
+        mWords.insert(mWords.end(), words, words + nbNow);
+        nb -= nbNow;
+    }
+}
+
+CImageRuns::CPixel CImageRuns::pixel(std::uint32_t word) const
+{
+    std::uint8_t stored[4];
+    std::memcpy(stored, &word, 4);
+    // The little-endian files that exist have nothing of use behind the first byte of a pixel.
+    if (mLittleEndian)
+        return {stored[0], 0, 0, 0};
+    return {stored[1], stored[2], stored[3], stored[0]};
+}
+
+void CImageRuns::expand(CPixel* out) const
+{
+    CPixel* const end = out + mNbPixels;
+    const std::uint32_t* word = mWords.data();
+    while (out != end) {
+        const std::uint32_t nbRepeats = *word++;
+        out = std::fill_n(out, nbRepeats, pixel(*word++));
+        if (out == end)
+            break;
+        const std::uint32_t nbLiterals = *word++;
+        out = std::transform(word, word + nbLiterals, out,
+                             [this](std::uint32_t stored) { return pixel(stored); });
+        word += nbLiterals;
+    }
+}
+
+} // namespace OvZel

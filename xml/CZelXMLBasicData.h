@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/CZelBasicData.h"
+
+namespace OvZel {
+
+class CZelXMLIO;
+
+/// Basic data of an object that can be written alone.
+class CZelXMLBasicData : public CZelBasicData {
+public:
+    OrvaneXML::XIXMLElement* putInXML(OrvaneXML::XIXMLElement* element) override;
+    bool initWithXML(OrvaneXML::XIXMLElement* element, bool getUUID) override;
+
+    /// Adds a child with the object's own tag, fills it and returns it.
+    virtual OrvaneXML::XIXMLElement* addXML(CZelXMLIO& io, OrvaneXML::XIXMLElement* element) = 0;
+    /// Reads the first child with the object's own tag.
+    virtual bool getXML(CZelXMLIO& io, OrvaneXML::XIXMLElement* element) = 0;
+
+protected:
+    ~CZelXMLBasicData() = default;
+};
+
+} // namespace OvZel

@@ -1,0 +1,142 @@
+#include "xml/CZelXMLGet.h"
+
+#include "core/OvThrow.h"
+#include "xml/tree/CXMLText.h"
+
+#include <cstdarg>
+#include <cstring>
+
+namespace OvZel {
+
+using OrvaneXML::XIXMLAttribute;
+using OrvaneXML::XIXMLElement;
+
+namespace {
+
+/// The text of an element that must have a text node. Asking the element itself spares the tree a
+/// node for each number that is read.
+const char* requiredText(XIXMLElement* element, const char* operation)
+{
+    const char* text = element->GetNode()->GetText();
+    if (*text == '\0')
+        OvThrow::IfNULL(element->GetFirstText(), operation);
+    return text;
+}
+
+} // namespace
+
+CZelXMLGet::CZelXMLGet(XIXMLElement* element) : mElement(element)
+{
+    OvThrow::IfNULL(element, "CZelXMLGet::CZelXMLGet");
+}
+
+XIXMLElement* CZelXMLGet::FindElement(const char* tag) const
+{
+    return mElement->FindElement(mElement->MakeKey(tag));
+}
+
+XIXMLElement* CZelXMLGet::GetElement(const char* tag) const
+{
+    XIXMLElement* found = FindElement(tag);
+    OvThrow::IfNULL(found, "CZelXMLGet::GetElement", tag);
+    return found;
+}
+
+std::int32_t CZelXMLGet::GetInteger(const char* tag) const
+{
+    int value = 0;
+    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetInteger"), "%d", &value);
+    return value;
+}
+
+std::int64_t CZelXMLGet::GetInteger64(const char* tag) const
+{
+    long long value = 0;
+    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetInteger64"), "%lld", &value);
+    return value;
+}
+
+double CZelXMLGet::GetDouble(const char* tag) const
+{
+    double value = 0.0;
+    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetDouble"), "%lf", &value);
+    return value;
+}
+
+float CZelXMLGet::GetFloat(const char* tag) const
+{
+    double value = 0.0;
+    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetFloat"), "%lf", &value);
+    return static_cast<float>(value);
+}
+
+const char* CZelXMLGet::GetText(const char* tag) const
+{
+    return GetElement(tag)->GetNode()->GetText();
+}
+
+int CZelXMLGet::GetFmtData(XIXMLElement* element, const char* format, ...)
+{
+    OvThrow::IfNULL(element, "CZelXMLGet::GetFmtData");
+    const char* text = requiredText(element, "CZelXMLGet::GetFmtData");
+    std::va_list arguments;
+    va_start(arguments, format);
+    const int nbStored = OrvaneXML::scanText(text, format, arguments);
+    va_end(arguments);
+    return nbStored;
+}
+
+XIXMLAttribute* CZelXMLGet::findAttribute(const char* name) const
+{
+    return mElement->FindAttribute(mElement->MakeKey(name));
+}
+
+XIXMLAttribute* CZelXMLGet::getAttribute(const char* name, const char* operation) const
+{
+    XIXMLAttribute* attribute = findAttribute(name);
+    OvThrow::IfNULL(attribute, operation, name);
+    return attribute;
+}
+
+const char* CZelXMLGet::GetOptionalAttribute(const char* name) const
+{
+    const XIXMLAttribute* attribute = findAttribute(name);
+    return attribute != nullptr ? attribute->GetValue() : nullptr;
+}
+
+int CZelXMLGet::GetFmtAttribute(const char* name, const char* format, ...) const
+{
+    const char* text = getAttribute(name, "CZelXMLGet::GetFmtAttribute")->GetValue();
+    std::va_list arguments;
+    va_start(arguments, format);
+    const int nbStored = OrvaneXML::scanText(text, format, arguments);
+    va_end(arguments);
+    return nbStored;
+}
+
+CZelUUID CZelXMLGet::GetUUID(const char* name) const
+{
+    return CZelUUID(getAttribute(name, "CZelXMLGet::GetUUID")->GetValue());
+}
+
+std::int32_t CZelXMLGet::GetAttributeLabel(const char* name, const CZelLabel* table) const
+{
+    const char* text = getAttribute(name, "CZelXMLGet::GetAttributeLabel")->GetValue();
+    const char* last = "";
+    for (const CZelLabel* label = table; label->text != nullptr; ++label) {
+        if (std::strcmp(label->text, text) == 0)
+            return label->value;
+        last = label->text;
+    }
+    OvThrow::Signal("Invalid label (%s) [%s..%s]", text, table->text != nullptr ? table->text : "",
+                    last);
+}
+
+const char* CZelXMLGet::GetAttributeLanguage(const char* tag) const
+{
+    const char* text = child(tag).GetOptionalAttribute("en");
+    OvThrow::IfNULL(text, "CZelXMLGet::GetAttributeLanguage");
+    return text;
+}
+
+} // namespace OvZel

@@ -1,0 +1,223 @@
+#include "xml/CZelXMLGet.h"
+
+#include "core/OvThrow.h"
+
+#include <zel/ITable.h>
+#include <zel/IZelMgrRef.h>
+#include <zel/IZelPlace.h>
+#include <zel/IZelString.h>
+#include <zel/IZelTime.h>
+
+#include <cstdlib>
+
+// The values that are made of several elements or attributes.
+
+namespace OvZel {
+
+using OrvaneXML::XIXMLAttribute;
+using OrvaneXML::XIXMLElement;
+
+namespace {
+
+std::uint8_t lowByte(std::int32_t value)
+{
+    return static_cast<std::uint8_t>(static_cast<std::uint32_t>(value));
+}
+
+CZelPoint toPoint(const std::array<double, 3>& xyz)
+{
+    return {xyz[0], xyz[1], xyz[2]};
+}
+
+void append(TZelObjectMgr<CZelUUID>& list, const CZelUUID& id)
+{
+    CZelUUID* entry = list.newZelObject(-1);
+    OvThrow::IfNULL(entry, "CZelXMLGet::GetIdList");
+    *entry = id;
+}
+
+/// The number of elements of the first one's name, counted as far as the limit. A table is never
+/// made larger than the entries that the file really has.
+std::int32_t countUpTo(std::int32_t limit, XIXMLElement* first)
+{
+    std::int32_t nb = 0;
+    for (; nb < limit && first != nullptr; first = first->GetNextSame())
+        ++nb;
+    return nb;
+}
+
+} // namespace
+
+void CZelXMLGet::GetLanguages(const char* tag, IZelString& string) const
+{
+    XIXMLElement* found = FindElement(tag);
+    if (found == nullptr)
+        return;
+    string.clear();
+    for (const XIXMLAttribute* text = found->GetFirstAttribute(); text != nullptr;
+         text = text->GetNext()) {
+        const char* name = text->GetKey();
+        const auto first = static_cast<unsigned char>(name[0]);
+        const auto second = static_cast<unsigned char>(first != 0 ? name[1] : '\0');
+        string.setText(first * 256U + second, text->GetValue());
+    }
+}
+
+std::array<double, 2> CZelXMLGet::GetCoord2D() const
+{
+    std::array<double, 2> xy{};
+    GetFmtAttribute("X", "%lf", &xy[0]);
+    GetFmtAttribute("Y", "%lf", &xy[1]);
+    return xy;
+}
+
+CZelPoint CZelXMLGet::GetCoord3D() const
+{
+    CZelPoint point;
+    GetFmtAttribute("X", "%lf", &point.x);
+    GetFmtAttribute("Y", "%lf", &point.y);
+    GetFmtAttribute("Z", "%lf", &point.z);
+    return point;
+}
+
+double CZelXMLGet::optionalCoord(const char* name, double start) const
+{
+    const XIXMLAttribute* attribute = findAttribute(name);
+    if (attribute == nullptr)
+        return start;
+    double value = 0.0;
+    attribute->Scan("%lf", &value);
+    return value;
+}
+
+std::array<double, 3> CZelXMLGet::optionalXYZ(const std::array<double, 3>& start) const
+{
+    return {optionalCoord("X", start[0]), optionalCoord("Y", start[1]),
+            optionalCoord("Z", start[2])};
+}
+
+CZelPoint CZelXMLGet::GetPoint(const char* tag, const IZelMgrRef* mgrRef) const
+{
+    auto xyz = child(tag).optionalXYZ({0.0, 0.0, 0.0});
+    mgrRef->transformPoint(xyz.data());
+    return toPoint(xyz);
+}
+
+CZelPoint CZelXMLGet::GetVector(const char* tag, const IZelMgrRef* mgrRef) const
+{
+    auto xyz = child(tag).optionalXYZ({0.0, 0.0, 0.0});
+    mgrRef->transformVector(xyz.data());
+    return toPoint(xyz);
+}
+
+CZelPoint CZelXMLGet::GetDirection(const char* tag, const IZelMgrRef* mgrRef) const
+{
+    auto xyz = child(tag).optionalXYZ({0.0, 0.0, 1.0});
+    mgrRef->transformNormal(xyz.data());
+    return toPoint(xyz);
+}
+
+std::array<double, 9> CZelXMLGet::GetTriangle(const IZelMgrRef* mgrRef) const
+{
+    const CZelXMLGet triangle = child("Triangle");
+    const CZelPoint p2 = triangle.GetPoint("Pt.2", mgrRef);
+    const CZelPoint p1 = triangle.GetPoint("Pt.1", mgrRef);
+    const CZelPoint p0 = triangle.GetPoint("Pt.0", mgrRef);
+    return {p0.x, p0.y, p0.z, p1.x, p1.y, p1.z, p2.x, p2.y, p2.z};
+}
+
+CZelColor CZelXMLGet::GetColor(const char* tag) const
+{
+    const CZelXMLGet color = child(tag);
+    std::int32_t red = 0, green = 0, blue = 0;
+    if (color.findAttribute("R") != nullptr) {
+        color.GetFmtAttribute("R", "%d", &red);
+        color.GetFmtAttribute("G", "%d", &green);
+        color.GetFmtAttribute("B", "%d", &blue);
+    } else {
+        red = color.GetInteger("Red");
+        green = color.GetInteger("Green");
+        blue = color.GetInteger("Blue");
+    }
+    return {{0, lowByte(red), lowByte(green), lowByte(blue)}};
+}
+
+std::array<double, 16> CZelXMLGet::GetZelMatrix(const char* tag) const
+{
+    std::array<double, 16> m = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    XIXMLElement* line = CZelXMLGet(GetElement(tag)).FindElement("Line");
+    for (std::size_t k = 0; k < 4; ++k, line = line->GetNextSame()) {
+        OvThrow::IfNULL(line, "CZelXMLGet::GetZelMatrix");
+        const OrvaneXML::XIXMLData* text = line->GetFirstText();
+        OvThrow::IfNULL(text, "CZelXMLGet::GetZelMatrix");
+        const int nbStored =
+            text->Scan("%lf, %lf, %lf, %lf", &m[k], &m[4 + k], &m[8 + k], &m[12 + k]);
+        OvThrow::IfFalse(nbStored == 4, "CZelXMLGet::GetZelMatrix", tag);
+    }
+    return m;
+}
+
+void CZelXMLGet::GetDate(const char* tag, IZelTime& time) const
+{
+    const CZelXMLGet date = child(tag);
+    time.setMonth(date.GetInteger("Month")); // ahead of the day, which is clipped by the month
+    time.setDay(date.GetInteger("Day"));
+    time.setHour(date.GetInteger("Hour"));
+    time.setMinute(date.GetInteger("Minute"));
+    if (date.IsElement("Year"))
+        time.setYear(date.GetInteger("Year"));
+}
+
+void CZelXMLGet::GetPlace(IZelPlace& place) const
+{
+    const CZelXMLGet in = child("Place");
+    const std::int32_t longitude = in.GetInteger("Longitude");
+    place.setLongitude(longitude);
+    place.setLatitude(in.GetInteger("Latitude"));
+    const std::int32_t zone = in.GetInteger("TimeZone");
+    // Older files have hours, and longitudes in a smaller unit.
+    const bool inHours = zone > -13 && zone < 13 && longitude > -901 && longitude < 901;
+    place.setTimeZone(inHours ? zone * 60 : zone);
+    place.setDaylight(in.IsElement("Daylight"));
+}
+
+void CZelXMLGet::GetTable(const char* tag, ITable& table) const
+{
+    const CZelXMLGet in(GetElement(tag));
+    std::int32_t length = 0;
+    in.GetFmtAttribute("Length", "%d", &length);
+    XIXMLElement* entry = in.FindElement("Float");
+    const std::int32_t nbEntries = countUpTo(length, entry);
+    table.setLength(nbEntries);
+    for (std::int32_t i = 0; i < nbEntries; ++i, entry = entry->GetNextSame()) {
+        double value = 0.0;
+        const OrvaneXML::XIXMLData* text = entry->GetFirstText();
+        OvThrow::IfNULL(text, "CZelXMLGet::GetTable 2");
+        text->Scan("%lf", &value);
+        table.setValue(i, static_cast<float>(value));
+    }
+    if (nbEntries < length)
+        OvThrow::SignalNULL("CZelXMLGet::GetTable 1");
+}
+
+void CZelXMLGet::GetIdList(const char* listTag, const char* itemTag,
+                           TZelObjectMgr<CZelUUID>& list) const
+{
+    for (std::int32_t i = list.getNbObjects(); i > 0; --i)
+        list.removeObject(i - 1);
+    XIXMLElement* found = FindElement(listTag);
+    if (found == nullptr)
+        return;
+    // The oldest form: every attribute from "UUID" on is an identifier, whatever its name.
+    const XIXMLAttribute* id = CZelXMLGet(found).findAttribute("UUID");
+    if (id != nullptr) {
+        for (; id != nullptr; id = id->GetNext())
+            append(list, CZelUUID(id->GetValue()));
+        return;
+    }
+    XIXMLElement* item = CZelXMLGet(found).FindElement(itemTag);
+    for (; item != nullptr; item = item->GetNextSame())
+        append(list, CZelXMLGet(item).GetUUID("UUID"));
+}
+
+} // namespace OvZel

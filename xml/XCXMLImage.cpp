@@ -1,0 +1,104 @@
+#include "xml/XCXMLImage.h"
+
+#include "xml/CHexWriter.h"
+#include "xml/CImageRuns.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+namespace OvZel {
+
+namespace {
+
+using CPixel = trn_image_RGBAn8::CPixel;
+
+void writePixel(CHexWriter& out, const CPixel& pixel)
+{
+    out.write(pixel.alpha, pixel.red, pixel.green, pixel.blue);
+}
+
+void writeCount(CHexWriter& out, const CPixel* first, const CPixel* last)
+{
+    out.write(static_cast<std::uint32_t>(last - first));
+}
+
+/// Writes the run at `first` and returns its end.
+const CPixel* writeRun(CHexWriter& out, const CPixel* first, const CPixel* end)
+{
+    const CPixel* last = first + 1;
+    while (last != end && *last == *first)
+        ++last;
+    writeCount(out, first, last);
+    writePixel(out, *first);
+    return last;
+}
+
+/// Writes the stretch up to and with the first of two equal pixels, and returns its end.
+const CPixel* writeLiterals(CHexWriter& out, const CPixel* first, const CPixel* end)
+{
+    const CPixel* last = first + 1;
+    while (last != end && !(*last == last[-1]))
+        ++last;
+    writeCount(out, first, last);
+    std::for_each(first, last, [&](const CPixel& pixel) { writePixel(out, pixel); });
+    return last;
+}
+
+} // namespace
+
+XCXMLImage::XCXMLImage(std::uint32_t width, std::uint32_t height, std::uint8_t* pixels)
+    : trn_image_RGBAn8(width, height, reinterpret_cast<CPixel*>(pixels))
+{
+}
+
+void XCXMLImage::ReadImage(OrvaneXML::XIXMLReadStream& stream)
+{
+    try {
+        const CImageRuns runs(stream);
+        if (runs.nbPixels() == 0)
+            return adopt(0, 0, nullptr);
+        std::unique_ptr<CPixel[]> made(new CPixel[runs.nbPixels()]);
+        runs.expand(made.get());
+        adopt(runs.width(), runs.height(), std::move(made));
+    } catch (const std::bad_alloc&) {
+        OvThrow::Signal("XCXMLImage::Read - Wrong data");
+    }
+}
+
+void XCXMLImage::WriteImage(OrvaneXML::XIXMLWriteStream& stream) const
+{
+    if (nbPixels() == 0)
+        return;
+    CHexWriter out(stream);
+    out.write(1); // the high byte of every word is first
+    out.write(width());
+    out.write(height());
+    const CPixel* pixel = pixels();
+    const CPixel* const end = pixel + nbPixels();
+    while (pixel != end) {
+        pixel = writeRun(out, pixel, end);
+        if (pixel != end)
+            pixel = writeLiterals(out, pixel, end);
+    }
+    out.flush();
+}
+
+bool XCXMLImage::Write(OrvaneXML::XIXMLWriteStream* stream, void*, OrvaneXML::XIXMLData*)
+{
+    try {
+        OvThrow::IfNULL(stream);
+        WriteImage(*stream);
+        return true;
+    } catch (...) {
+        return false;
+    }
+}
+
+OrvaneXML::XIXMLData::IXMLCData* XCXMLImage::Clone()
+{
+    addReference();
+    return this;
+}
+
+} // namespace OvZel
