@@ -171,7 +171,7 @@ void CFastReader::readVertex(CZelVertex& vertex)
         vertex.flags |= CZelVertex::kFlagM;
         vertex.u = static_cast<float>(readDouble());
         vertex.v = static_cast<float>(readDouble());
-    } else if (c >= 0) {
+    } else {
         mIn.UnRead();
     }
     vertex.pointIndex = readInteger();

@@ -61,6 +61,7 @@ std::vector<double> doubles(const std::string& text, int count)
         return std::string("good");
     };
     EXPECT_EQ(outcome(text, read), "good") << text;
+    result.resize(static_cast<std::size_t>(count));
     return result;
 }
 

@@ -10,11 +10,14 @@ namespace {
 
 constexpr const char* kNoPolygon = "CZELGeoReader::setPolygon - Can't allocate polygon";
 
-void replaceRecords(IZelObjectMgrBase& manager, std::int32_t count)
+/// Returns how many records there is room for now.
+std::int32_t replaceRecords(IZelObjectMgrBase& manager, std::int32_t count)
 {
     manager.removeAllObjects();
-    if (count > 0)
-        manager.reserve(std::min(count, kRoomAhead));
+    const std::int32_t room = std::clamp(count, 0, kRoomAhead);
+    if (room > 0)
+        manager.reserve(room);
+    return room;
 }
 
 } // namespace
@@ -24,9 +27,17 @@ CZELGeoReader::CZELGeoReader(IZelMgrRef& mgrRef, CPoints& points, CPolygons& pol
 {
 }
 
+CZELGeoReader::~CZELGeoReader()
+{
+    if (mPoints->size() < mPointsRoom)
+        mPoints->reserve(mPoints->size());
+    if (mPolygons->size() < mPolygonsRoom)
+        mPolygons->releaseSpareRoom();
+}
+
 void CZELGeoReader::setNbPoints(std::int32_t count)
 {
-    replaceRecords(*mPoints, count);
+    mPointsRoom = replaceRecords(*mPoints, count);
 }
 
 bool CZELGeoReader::setPoint(const CZelPoint* point, std::int32_t)
@@ -36,7 +47,7 @@ bool CZELGeoReader::setPoint(const CZelPoint* point, std::int32_t)
 
 void CZELGeoReader::setNbPolygons(std::int32_t count)
 {
-    replaceRecords(*mPolygons, count);
+    mPolygonsRoom = replaceRecords(*mPolygons, count);
 }
 
 bool CZELGeoReader::setPolygon(IZelPolygon* polygon, std::int32_t)

@@ -18,6 +18,10 @@ public:
 
     /// Keeps all three.
     CZELGeoReader(IZelMgrRef& mgrRef, CPoints& points, CPolygons& polygons);
+    CZELGeoReader(const CZELGeoReader&) = delete;
+    CZELGeoReader& operator=(const CZELGeoReader&) = delete;
+    /// Gives back the room for records that were claimed and did not come.
+    ~CZELGeoReader() override;
 
     /// A block carries a whole mesh, so the records from before go.
     void setNbPoints(std::int32_t count) override;
@@ -38,6 +42,8 @@ public:
 private:
     bool refuse(const char* text) const;
 
+    std::int32_t mPointsRoom = 0;
+    std::int32_t mPolygonsRoom = 0;
     TZelComPtr<IZelMgrRef> mMgrRef;
     TZelComPtr<CPoints> mPoints;
     TZelComPtr<CPolygons> mPolygons;
