@@ -20,6 +20,8 @@ public:
     void removeObject(std::int32_t index) override;
     void moveObject(std::int32_t from, std::int32_t to) override;
     bool reserve(std::int32_t count) override;
+    /// Keeps the memory when making the smaller list fails.
+    void releaseSpareRoom() noexcept { mElements.shrink_to_fit(); }
     I* getZelObject(std::int32_t index) override;
     I* newZelObject(std::int32_t index) override { return insert(index); }
 

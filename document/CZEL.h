@@ -146,6 +146,7 @@ private:
     void writeSections(CZelXMLIO& io);
     void writeFileInfo();
     void writeDefinitions();
+    void writeWrapper(OrvaneXML::XIXMLElement& wrapper, const CZelZelObjectDefinition& definition);
     void writeWorkingWindow();
     void writeRootName();
     void renewInstructions();

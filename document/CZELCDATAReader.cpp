@@ -21,38 +21,24 @@ namespace {
 /// From this library version on a load leaves the preview to readPreviewImage.
 constexpr std::int32_t kPreviewStaysUnread = 5;
 
-/// The mesh that a geometry block is for: a component, or with a null identifier the document.
-struct CMeshOwner {
-    CZelUUID id;
-    std::int32_t level = 0;
-};
-
-CMeshOwner componentOf(XIXMLElement& wrapper)
+CZelUUID componentId(XIXMLElement& wrapper)
 {
     const CZelXMLGet in(&wrapper);
-    CMeshOwner owner;
     if (in.GetOptionalAttribute("UUID") == nullptr)
         OvThrow::Signal("CZELCDATAReader::ReadCData - No UUID attributes");
-    owner.id = in.GetUUID("UUID");
-    if (owner.id.isNull())
+    const CZelUUID id = in.GetUUID("UUID");
+    if (id.isNull())
         OvThrow::Signal("CZELCDATAReader::ReadCData - NULL UUID");
-    XIXMLElement* level = in.FindElement("Geometry.Level");
-    if (level == nullptr)
-        OvThrow::Signal("CZELCDATAReader::ReadCData - No Geometry.Level element");
-    if (level->GetFirstText() == nullptr)
-        OvThrow::Signal("CZELCDATAReader::ReadCData - No Geometry.Level data");
-    owner.level = in.GetInteger("Geometry.Level");
-    return owner;
+    return id;
 }
 
-CMeshOwner meshOwner(XIXMLElement& element)
+std::int32_t geometryLevel(XIXMLElement& level)
 {
-    XIXMLElement* parent = element.GetNode()->GetParent();
-    if (parent == nullptr)
-        OvThrow::Signal("CZELCDATAReader::ReadCData - No parent node");
-    if (parent->GetKey() == "InternalComponentDefinition")
-        return componentOf(*parent);
-    return {};
+    if (level.GetFirstText() == nullptr)
+        OvThrow::Signal("CZELCDATAReader::ReadCData - No Geometry.Level data");
+    int value = 0;
+    CZelXMLGet::GetFmtData(&level, "%d", &value);
+    return value;
 }
 
 } // namespace
@@ -121,9 +107,8 @@ CZelImage& CZELCDATAReader::imageFor(XIXMLElement& element)
     const bool hasId = in.GetOptionalAttribute("UUID") != nullptr;
     if (mMode == EMode::Sections && hasId) {
         const CZelUUID id = in.GetUUID("UUID");
-        for (std::int32_t i = 0; i < images.size(); ++i)
-            if (*images.at(i)->getId() == id)
-                return *images.at(i);
+        if (CZelImage* known = knownImage(id))
+            return *known;
     }
     // A picture whose identifier is bad stays too, under the one that it was made with.
     CZelImage* made = images.append();
@@ -133,6 +118,57 @@ CZelImage& CZELCDATAReader::imageFor(XIXMLElement& element)
         made->setId(&id);
     }
     return *made;
+}
+
+/// The first picture of the document with that identifier, or null.
+CZelImage* CZELCDATAReader::knownImage(const CZelUUID& id)
+{
+    const CZEL::CImages& images = *mDocument.getImages();
+    for (; mNbIndexed < images.size(); ++mNbIndexed)
+        mImageIndex.emplace(*images.at(mNbIndexed)->getId(), mNbIndexed);
+    const auto found = mImageIndex.find(id);
+    return found != mImageIndex.end() && found->second < images.size() ? images.at(found->second)
+                                                                       : nullptr;
+}
+
+CZELCDATAReader::CMeshOwner CZELCDATAReader::meshOwner(XIXMLElement& element)
+{
+    XIXMLElement* parent = element.GetNode()->GetParent();
+    if (parent == nullptr)
+        OvThrow::Signal("CZELCDATAReader::ReadCData - No parent node");
+    if (parent->GetKey() != "InternalComponentDefinition")
+        return {};
+    CComponent& component = mComponents[parent];
+    if (!component.isSettled)
+        settle(*parent, component);
+    if (!component.failure.empty())
+        OvThrow::Signal("%s", component.failure.c_str());
+    return component.owner;
+}
+
+/// Looks for what a component is, in the children that have come since the last look.
+void CZELCDATAReader::settle(XIXMLElement& wrapper, CComponent& component)
+{
+    try {
+        if (component.seen == nullptr)
+            component.owner.id = componentId(wrapper);
+        XIXMLElement* child = component.seen != nullptr ? component.seen->GetNextElement()
+                                                        : wrapper.GetFirstElement();
+        for (; child != nullptr; child = child->GetNextElement()) {
+            component.seen = child;
+            if (child->GetKey() == "Geometry.Level")
+                break;
+        }
+        component.isSettled = child != nullptr;
+        if (child == nullptr)
+            OvThrow::Signal("CZELCDATAReader::ReadCData - No Geometry.Level element");
+        component.owner.level = geometryLevel(*child);
+    } catch (const std::exception& exception) {
+        if (component.seen != nullptr && !component.isSettled)
+            throw; // the level may still come
+        component.isSettled = true;
+        component.failure = exceptionText(exception);
+    }
 }
 
 void CZELCDATAReader::readGeometry(XIXMLElement& element, XIXMLReadStream& stream)

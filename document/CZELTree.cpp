@@ -113,9 +113,12 @@ XIXMLElement* CZEL::insertBehind(XIXMLElement* before, const char* tag)
 void CZEL::destroySections(const char* tag)
 {
     XIXMLElement* file = fileNode();
-    const OrvaneXML::XCXMLKey key = file->MakeKey(tag);
-    while (XIXMLElement* section = file->FindElement(key))
+    XIXMLElement* section = file->FindElement(file->MakeKey(tag));
+    while (section != nullptr) {
+        XIXMLElement* next = section->GetNextSame();
         section->Destroy();
+        section = next;
+    }
 }
 
 XIXMLElement* CZEL::renewSection(const char* tag)
@@ -126,8 +129,11 @@ XIXMLElement* CZEL::renewSection(const char* tag)
     XIXMLElement* made = file->AddElement(key);
     if (old != nullptr)
         file->InsertChild(made->GetNode(), old->GetNode());
-    while (XIXMLElement* other = made->GetNextSame())
+    for (XIXMLElement* other = made->GetNextSame(); other != nullptr;) {
+        XIXMLElement* next = other->GetNextSame();
         other->Destroy();
+        other = next;
+    }
     return made;
 }
 

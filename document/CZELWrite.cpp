@@ -58,6 +58,16 @@ void renewBlock(XIXMLElement& wrapper, const char* tag, XIXMLData* before,
     wrapper.InsertChild(block->GetNode(), before);
 }
 
+/// Destroys the elements of that name behind the given one.
+void destroyOthers(XIXMLElement& first)
+{
+    for (XIXMLElement* other = first.GetNextSame(); other != nullptr;) {
+        XIXMLElement* next = other->GetNextSame();
+        other->Destroy();
+        other = next;
+    }
+}
+
 /// Null for a wrapper that a failed load left without a good identifier: no definition has it.
 CZelUUID idOf(XIXMLElement& wrapper)
 {
@@ -82,6 +92,17 @@ bool sameTexts(const IZelString& string, XIXMLElement& element)
         attribute = attribute->GetNext();
     }
     return attribute == nullptr;
+}
+
+/// The wrappers of a section and of those of the same name behind it, by identifier.
+std::multimap<CZelUUID, XIXMLElement*> collectWrappers(XIXMLElement& section)
+{
+    std::multimap<CZelUUID, XIXMLElement*> wrappers;
+    for (XIXMLElement* each = &section; each != nullptr; each = each->GetNextSame())
+        for (XIXMLElement* child = CZelXMLGet(each).FindElement("InternalComponentDefinition");
+             child != nullptr; child = child->GetNextSame())
+            wrappers.emplace(idOf(*child), child);
+    return wrappers;
 }
 
 } // namespace
@@ -149,10 +170,10 @@ void CZEL::writeSections(CZelXMLIO&)
         destroySections(legacy);
     writeFileInfo();
     writeDefinitions();
-    writeWorkingWindow();
     writeRootName();
     addRenderParameters(mRenderParameters, CZelXMLAdd(renewSection("Tmp.Render.Parameters")));
     destroySections("Current.Id");
+    writeWorkingWindow();
 }
 
 void CZEL::writeFileInfo()
@@ -172,11 +193,7 @@ void CZEL::writeDefinitions()
         sendMessage("Document geometry isn't written: internal components are present");
 
     // A wrapper from the file keeps what else stands in it.
-    std::multimap<CZelUUID, XIXMLElement*> wrappers;
-    for (XIXMLElement* each = section; each != nullptr; each = each->GetNextSame())
-        for (XIXMLElement* child = CZelXMLGet(each).FindElement("InternalComponentDefinition");
-             child != nullptr; child = child->GetNextSame())
-            wrappers.emplace(idOf(*child), child);
+    std::multimap<CZelUUID, XIXMLElement*> wrappers = collectWrappers(*section);
     for (std::int32_t i = 0; i < mDefinitions->size(); ++i) {
         const CZelZelObjectDefinition& definition = *mDefinitions->at(i);
         XIXMLElement* wrapper;
@@ -187,20 +204,23 @@ void CZEL::writeDefinitions()
             wrapper = CZelXMLAdd(section).AddElement("InternalComponentDefinition");
         }
         section->InsertChild(wrapper->GetNode(), nullptr);
-        const CZelXMLAdd out(wrapper);
-        out.AddUUID("UUID", *definition.getId());
-        renewText(*wrapper, "Geometry.Level", std::to_string(definition.getGeometryLevel()));
-        out.DestroyElements("Points");
-        out.DestroyElements("Polygons");
-        XIXMLData* next =
-            CZelXMLGet(wrapper).GetElement("Geometry.Level")->GetNode()->GetNextNode();
-        renewBlock(*wrapper, "Points", next, new CPointsProvider(this));
-        renewBlock(*wrapper, "Polygons", next, new CPolygonsProvider(this));
+        writeWrapper(*wrapper, definition);
     }
     for (const auto& [id, wrapper] : wrappers)
         wrapper->Destroy();
-    while (XIXMLElement* other = section->GetNextSame())
-        other->Destroy();
+    destroyOthers(*section);
+}
+
+void CZEL::writeWrapper(XIXMLElement& wrapper, const CZelZelObjectDefinition& definition)
+{
+    const CZelXMLAdd out(&wrapper);
+    out.AddUUID("UUID", *definition.getId());
+    renewText(wrapper, "Geometry.Level", std::to_string(definition.getGeometryLevel()));
+    out.DestroyElements("Points");
+    out.DestroyElements("Polygons");
+    XIXMLData* next = CZelXMLGet(&wrapper).GetElement("Geometry.Level")->GetNode()->GetNextNode();
+    renewBlock(wrapper, "Points", next, new CPointsProvider(this));
+    renewBlock(wrapper, "Polygons", next, new CPolygonsProvider(this));
 }
 
 void CZEL::writeWorkingWindow()
@@ -210,9 +230,9 @@ void CZEL::writeWorkingWindow()
         window = CZelXMLAdd(fileNode()).AddElement("Working.Window");
         CZelXMLAdd(window).AddElement("Parallel.Views");
     }
-    // Only the first one was ever read, and this one section always goes to the end.
-    while (XIXMLElement* other = window->GetNextSame())
-        other->Destroy();
+    // Only the first one was ever read. It always goes to the end, behind what this save adds, so
+    // that the next save finds nothing to move.
+    destroyOthers(*window);
     fileNode()->InsertChild(window->GetNode(), nullptr);
 }
 
