@@ -1,11 +1,12 @@
+#include "tests/support/CStepReadStream.h"
+#include "tests/support/CTextWriteStream.h"
 #include "xml/tree/CXMLTreeReader.h"
 
-#include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 // What can be read can be written, and what was written reads back to the same bytes.
 
@@ -13,36 +14,11 @@ namespace {
 
 using namespace OrvaneXML;
 
-class CSource final : public XIXMLReadStream {
-public:
-    explicit CSource(std::string_view text) : mText(text) {}
-    std::uint32_t Read(void* buffer, std::uint32_t size) override
-    {
-        const auto nb = static_cast<std::uint32_t>(std::min<std::size_t>(size, mText.size()));
-        std::memcpy(buffer, mText.data(), nb);
-        mText.remove_prefix(nb);
-        return nb;
-    }
-
-private:
-    std::string_view mText;
-};
-
-class CSink final : public XIXMLWriteStream {
-public:
-    std::uint32_t Write(const void* buffer, std::uint32_t size) override
-    {
-        text.append(static_cast<const char*>(buffer), size);
-        return size;
-    }
-    std::string text;
-};
-
 std::string rewritten(std::string_view text)
 {
-    CSource source(text);
+    CStepReadStream source{std::string(text)};
     const std::unique_ptr<XCXMLTree> tree(CXMLTreeReader(nullptr).ReadTree(&source));
-    CSink sink;
+    CTextWriteStream sink;
     if (!tree->Write(&sink))
         std::abort();
     return sink.text;

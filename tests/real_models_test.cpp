@@ -1,5 +1,6 @@
 #ifdef ZEL_TOOL // without the tool there is nothing to test
 
+#include "tests/support/CMemoryReadStream.h"
 #include "tests/toolRun.h"
 
 #include <zel/IZelMgr.h>
@@ -10,7 +11,6 @@
 #include <assimp/scene.h>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
@@ -83,28 +83,6 @@ CModel fromSource(const std::string& path)
     return model;
 }
 
-class CTextStream final : public OvZel::IZelReadStream {
-public:
-    explicit CTextStream(std::string text) : mText(std::move(text)) {}
-
-    std::uint32_t read(void* buffer, std::uint32_t size) override
-    {
-        const std::size_t count = std::min<std::size_t>(size, mText.size() - mPosition);
-        std::memcpy(buffer, mText.data() + mPosition, count);
-        mPosition += count;
-        return static_cast<std::uint32_t>(count);
-    }
-    std::int64_t getPosition() override { return static_cast<std::int64_t>(mPosition); }
-    void setPosition(std::int64_t position) override
-    {
-        mPosition = static_cast<std::size_t>(position);
-    }
-
-private:
-    std::string mText;
-    std::size_t mPosition = 0;
-};
-
 CFace faceOf(OvZel::IZelPolygon& polygon, const CModel& model)
 {
     CFace face{polygon.getMaterial(), {}};
@@ -124,7 +102,7 @@ CModel fromDocument(const std::string& path)
     CModel model;
     OvZel::IZelMgr* document = nullptr;
     OvZel::IZelMgr::newZelMgr(&document, OvZel::eVersionZel, nullptr);
-    CTextStream stream(contents(path));
+    ZelTest::CMemoryReadStream stream(contents(path));
     EXPECT_TRUE(document->read(&stream, nullptr));
     for (std::int32_t i = 0; i < document->getPoints()->getNbObjects(); ++i)
         model.points.push_back(*document->getPoints()->getZelObject(i));

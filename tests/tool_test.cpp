@@ -173,6 +173,13 @@ TEST_F(Tool, ExitCodesTellWhatWentWrong)
     EXPECT_THAT(mFolder.names(), ElementsAre("square.obj", "text.zel"));
 }
 
+TEST_F(Tool, AWordThatIsNoCommandIsNamed)
+{
+    EXPECT_THAT(runTool({"nonsense", "info"}).messages, HasSubstr("not expected: nonsense"));
+    EXPECT_THAT(runTool({}).messages, HasSubstr("A subcommand is required"));
+    EXPECT_THAT(runTool({"info"}).messages, HasSubstr("FILE is required"));
+}
+
 TEST_F(Tool, HelpIsOutputAndHasAnExample)
 {
     for (const std::string command : {"", "info", "preview", "rewrite", "from-model", "to-model"}) {

@@ -27,11 +27,13 @@ inline void* entryOf(const void* object, std::ptrdiff_t slot)
     return table[slot];
 }
 
-/// Calls a slot as a client does that knows an operation without arguments there.
-inline void callSlot(void* object, std::ptrdiff_t slot)
+/// Calls a slot as a client does that knows an operation with this result and these arguments
+/// there. A member is called as a function that has the object first.
+template <class Result = void, class... Arguments>
+Result callSlot(void* object, std::ptrdiff_t slot, Arguments... arguments)
 {
-    const auto operation = reinterpret_cast<void (*)(void*)>(entryOf(object, slot));
-    operation(object);
+    const auto operation = reinterpret_cast<Result (*)(void*, Arguments...)>(entryOf(object, slot));
+    return operation(object, arguments...);
 }
 
 } // namespace ZelTest
