@@ -2,8 +2,6 @@
 
 #include "core/CZelMgrRef.h"
 
-#include <algorithm>
-
 namespace OvZel {
 
 void CZelString::copyFrom(const IZelString* source)
@@ -21,8 +19,8 @@ void CZelString::copyFrom(const IZelString* source)
 
 const char* CZelString::getText(std::uint32_t language) const
 {
-    const auto found = const_cast<CZelString*>(this)->find(language);
-    return found != mTexts.end() ? found->text.c_str() : nullptr;
+    const std::size_t place = find(language);
+    return place < mTexts.size() ? mTexts[place].text.c_str() : nullptr;
 }
 
 const char* CZelString::getCurrentText() const
@@ -34,15 +32,22 @@ const char* CZelString::getCurrentText() const
 
 void CZelString::setText(std::uint32_t language, const char* text)
 {
-    const auto found = find(language);
-    if (found == mTexts.end()) {
+    const std::size_t place = find(language);
+    if (place == mTexts.size()) {
         if (text != nullptr)
             mTexts.push_back({language, text});
     } else if (text != nullptr) {
-        found->text = text;
+        mTexts[place].text = text;
     } else {
-        mTexts.erase(found);
+        mTexts.erase(mTexts.begin() + static_cast<std::ptrdiff_t>(place));
+        mPlaces.clear();
     }
+}
+
+void CZelString::clear()
+{
+    mTexts.clear();
+    mPlaces.clear();
 }
 
 std::uint32_t CZelString::getLanguageKey(std::uint32_t index) const
@@ -56,10 +61,23 @@ std::uint32_t CZelString::currentKey() const
     return mMgrRef ? CZelMgrRef::from(mMgrRef.get())->languageKey() : kEnglish;
 }
 
-std::vector<CZelString::CText>::iterator CZelString::find(std::uint32_t language)
+std::size_t CZelString::find(std::uint32_t language) const
 {
-    return std::find_if(mTexts.begin(), mTexts.end(),
-                        [=](const CText& entry) { return entry.language == language; });
+    constexpr std::size_t kFew = 32;
+    if (mTexts.size() > kFew)
+        return findAmongMany(language);
+    std::size_t place = 0;
+    while (place < mTexts.size() && mTexts[place].language != language)
+        ++place;
+    return place;
+}
+
+std::size_t CZelString::findAmongMany(std::uint32_t language) const
+{
+    for (std::size_t place = mPlaces.size(); place < mTexts.size(); ++place)
+        mPlaces.emplace(mTexts[place].language, place);
+    const auto found = mPlaces.find(language);
+    return found != mPlaces.end() ? found->second : mTexts.size();
 }
 
 } // namespace OvZel

@@ -7,6 +7,7 @@
 #include <zel/IZelString.h>
 
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace OvZel {
@@ -25,7 +26,7 @@ public:
     void setCurrentText(const char* text) override { setText(currentKey(), text); }
     std::uint32_t getNbTexts() const override { return static_cast<std::uint32_t>(mTexts.size()); }
     std::uint32_t getLanguageKey(std::uint32_t index) const override;
-    void clear() override { mTexts.clear(); }
+    void clear() override;
 
 private:
     struct CText {
@@ -34,10 +35,15 @@ private:
     };
 
     std::uint32_t currentKey() const;
-    std::vector<CText>::iterator find(std::uint32_t language);
+    /// The place in mTexts, or the end.
+    std::size_t find(std::uint32_t language) const;
+    std::size_t findAmongMany(std::uint32_t language) const;
 
     TZelComPtr<IZelMgrRef> mMgrRef;
     std::vector<CText> mTexts;
+    // The places of the first texts, only filled when there are many: a file may name thousands of
+    // languages, and a search through all of them for each would take minutes.
+    mutable std::unordered_map<std::uint32_t, std::size_t> mPlaces;
 };
 
 } // namespace OvZel

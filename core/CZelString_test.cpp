@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+#include <string>
+
 using namespace OvZel;
 
 namespace {
@@ -107,4 +110,31 @@ TEST(String, ClearRemovesEverything)
     text.clear();
     EXPECT_EQ(text.getNbTexts(), 0u);
     EXPECT_EQ(text.getText(kEn), nullptr);
+}
+
+TEST(String, ManyLanguagesKeepTheirOrderAndTakeNoSearchEach)
+{
+    constexpr std::uint32_t kNb = 65'536;
+    CZelString text(nullptr);
+    const std::clock_t start = std::clock();
+    for (int round = 0; round < 5; ++round)
+        for (std::uint32_t key = kNb; key > 0; --key)
+            text.setText(key - 1, std::to_string(key + static_cast<unsigned>(round)).c_str());
+    EXPECT_LT(std::clock() - start, 2 * CLOCKS_PER_SEC); // a search each takes far more
+    ASSERT_EQ(text.getNbTexts(), kNb);
+    EXPECT_EQ(text.getLanguageKey(0), kNb - 1);
+    EXPECT_EQ(text.getLanguageKey(kNb - 1), 0u);
+    EXPECT_STREQ(text.getText(0), "5");
+    EXPECT_EQ(text.getText(kNb), nullptr);
+
+    text.setText(kNb - 2, nullptr); // what is behind it moves up
+    EXPECT_EQ(text.getText(kNb - 2), nullptr);
+    EXPECT_EQ(text.getLanguageKey(1), kNb - 3);
+    EXPECT_STREQ(text.getText(0), "5");
+    text.clear();
+    EXPECT_EQ(text.getText(0), nullptr);
+    for (std::uint32_t key = 0; key < 100; ++key)
+        text.setText(key, "again");
+    EXPECT_EQ(text.getNbTexts(), 100u);
+    EXPECT_EQ(text.getLanguageKey(99), 99u);
 }

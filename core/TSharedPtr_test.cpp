@@ -5,6 +5,8 @@
 #include "core/TZelStrongPtr.h"
 #include "core/TZelWeakPtr.h"
 
+#include "tests/support/messageOf.h"
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -54,17 +56,6 @@ public:
 private:
     bool& mGone;
 };
-
-template <class Action>
-std::string textOf(Action action)
-{
-    try {
-        action();
-    } catch (const std::runtime_error& failure) {
-        return failure.what();
-    }
-    return "nothing raised";
-}
 
 } // namespace
 
@@ -212,7 +203,7 @@ TEST(WeakPtr, KeepsTheBlockAndRaisesWhenEmpty)
     TZelWeakPtr<CThing> weak(thing->getBlock());
     const TZelWeakPtr<CThing> copy(weak);
     weak = TZelWeakPtr<CThing>();
-    EXPECT_EQ(textOf([&] { weak.getSharedPtr(); }),
+    EXPECT_EQ(messageOf([&] { weak.getSharedPtr(); }),
               "TZelWeakPtr::getSharedPtr - Shared pointer is NULL");
     EXPECT_EQ(copy.getSharedPtr()->get(), thing);
     thing->Release();
@@ -244,8 +235,8 @@ TEST(StrongPtr, RaisesWhenEmptyOrWithoutObject)
     thing->Release();
     const TZelStrongPtr<CThing> orphan(weak.getSharedPtr());
     const TZelStrongPtr<CThing> empty;
-    EXPECT_EQ(textOf([&] { orphan.getPtr(); }), "TZelStrongPtr::getPtr - Pointer is NULL");
-    EXPECT_EQ(textOf([&] { empty.getPtr(); }), "TZelStrongPtr::getPtr - Shared pointer is NULL");
+    EXPECT_EQ(messageOf([&] { orphan.getPtr(); }), "TZelStrongPtr::getPtr - Pointer is NULL");
+    EXPECT_EQ(messageOf([&] { empty.getPtr(); }), "TZelStrongPtr::getPtr - Shared pointer is NULL");
     EXPECT_EQ(orphan.peek(), nullptr);
     EXPECT_EQ(empty.peek(), nullptr);
 }
@@ -262,6 +253,7 @@ TEST(ComPtr, CountsAndRaisesOnNull)
     EXPECT_EQ(&*two, thing);
     two.reset();
     EXPECT_TRUE(dead);
-    EXPECT_EQ(textOf([&] { two.operator->(); }), "TZelComPtr::operator->() - Dereferencing NULL");
-    EXPECT_EQ(textOf([&] { *two; }), "TZelComPtr::operator*() - Dereferencing NULL");
+    EXPECT_EQ(messageOf([&] { two.operator->(); }),
+              "TZelComPtr::operator->() - Dereferencing NULL");
+    EXPECT_EQ(messageOf([&] { *two; }), "TZelComPtr::operator*() - Dereferencing NULL");
 }

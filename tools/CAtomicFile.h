@@ -11,7 +11,8 @@ namespace tool {
 class CAtomicFile {
 public:
     /// Throws CToolError(eIoError) when no file can be made beside the target, or when the target
-    /// is no ordinary file. A link is followed.
+    /// is no ordinary file. A link to a file is followed; one that leads nowhere is itself replaced
+    /// by the file.
     explicit CAtomicFile(const std::string& target);
     /// Removes the new file unless it was committed.
     ~CAtomicFile();

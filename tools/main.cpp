@@ -121,6 +121,12 @@ static EExit run(int argc, char** argv, CToolOutput& output)
     addToModel(app, arguments);
     try {
         app.parse(argc, argv);
+    } catch (const CLI::RequiredError& error) {
+        // Behind a word that is no command, the command itself is what the parser misses first.
+        const std::vector<std::string> unknown = app.remaining();
+        if (!unknown.empty())
+            return stopParsing(app, CLI::ExtrasError(unknown), output);
+        return stopParsing(app, error, output);
     } catch (const CLI::ParseError& error) {
         return stopParsing(app, error, output);
     }

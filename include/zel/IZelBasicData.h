@@ -25,6 +25,7 @@ public:
     virtual bool initWithXML(OrvaneXML::XIXMLElement* element, bool getUUID) = 0;
     /// The identifier; random in a new object. The pointer is good as long as the object.
     virtual const CZelUUID* getId() const = 0;
+    /// Null stores the null identifier.
     virtual void setId(const CZelUUID* id) = 0;
     /// The name, empty in a new object; good until the next change of the name.
     virtual const char* getName() const = 0;

@@ -11,7 +11,7 @@ public:
 
     /// Three doubles, zero in a new document; good as long as the object.
     virtual const double* getOrigin() const = 0;
-    /// Copies three doubles.
+    /// Copies three doubles; null changes nothing.
     virtual void setOrigin(const double* origin) = 0;
 
 protected:

@@ -65,6 +65,9 @@ enum EExtendedVersionZEL : std::int32_t { eExtendedVersionZel = 50 };
 /// from any thread, and the last Release destroys the document at once, whatever objects a client
 /// still holds: those stay valid, but find no document any more.
 ///
+/// Lists of types that these headers only name are empty and refuse new elements
+/// ("newZelObject: Can't allocate object"); their sections pass from load to save untouched.
+///
 /// Pointers that it returns carry no reference and live as long as the document, texts until the
 /// next change of the same value. Failures go to IZelFeedback::message as a text; the operation
 /// then returns false, null or an empty text.
@@ -95,16 +98,21 @@ public:
     static ZEL_API EVersionZEL getZELVersion();
     static ZEL_API EExtendedVersionZEL getExtendedZelVersion();
 
-    /// Whether this library can read the stream, without loading it. version (may be null) takes
-    /// the version of the writing library, label (may be null) a text such as "Vendralis (6.0)",
-    /// cut to labelSize bytes. The stream's position is put back. Raises and reports nothing.
+    /// Whether this library can read the stream, without loading it. readability, version and label
+    /// may be null. version takes the version of the writing library, and stays as it is when the
+    /// stream is no document; label takes a text such as "Vendralis (6.0)", cut to labelSize bytes
+    /// with its NUL, and stays as it is when the result is false. The stream's position is put
+    /// back. Raises and reports nothing.
     static ZEL_API bool checkFormat2(IZelReadStream* stream, eReadability* readability,
                                      CZelVersion* version, char* label, std::uint32_t labelSize);
     /// The preview picture of a file, without loading it: *out takes one reference for the caller,
-    /// or null. The stream stays where the search stopped. Raises and reports nothing.
+    /// or null; what *out held before is not released. The stream stays where the search stopped.
+    /// Raises and reports nothing.
     static ZEL_API void readPreviewImage(IZelImage** out, IZelReadStream* stream);
     /// Origin and identifier of a file, without loading it: *out takes one reference for the
-    /// caller; what wasn't found is zero. The stream's position is put back.
+    /// caller; what wasn't found is zero. What *out held before is not released. The stream's
+    /// position is put back; where that fails *out is null. A stream that can't be parsed gives a
+    /// line on standard output for each of the two, and nothing is raised.
     static ZEL_API void readFileInfo(IZelFileInfo** out, IZelReadStream* stream);
 
 protected:
@@ -116,6 +124,7 @@ public:
     virtual void setApplication(const char* name, const char* version) = 0;
     virtual const char* getApplicationName() const = 0;
     virtual const char* getApplicationVersion() const = 0;
+    /// Both give the same object.
     virtual IZelFileInfo* getFileInfo() = 0;
     virtual IZelFileInfo* getFileInfo2() = 0;
     /// The further operations, for a client of generation 5 to 50; else null with a message as in
@@ -131,7 +140,8 @@ public:
     virtual bool read(IZelReadStream* stream, IZelExtStorageReader* reader) = 0;
     /// writeVersion with a null version.
     virtual bool write(IZelWriteStream* stream, IZelExtStorageWriter* writer) = 0;
-    /// Major and minor of the file generation last read, 5 and 1 before. Either may be null.
+    /// Major and minor of the file generation last read, 5 and 1 before. Either may be null. Always
+    /// true.
     virtual bool getFileVersion(std::int32_t* major, std::int32_t* minor) const = 0;
     virtual TZelObjectMgr<IZelCamera>* getCameras() = 0;
     /// The document's own mesh, saved only while the document has no internal components.
@@ -147,7 +157,7 @@ public:
     /// take it with readPreviewImage and give it back with setImage before a save.
     virtual IZelImage* getPreviewImage() = 0;
     virtual TZelObjectMgr<IZelImage>* getImages() = 0;
-    /// The scene itself as one definition.
+    /// The scene itself as one definition. Its name is saved only where the file last read has one.
     virtual IZelZelObjectDefinition* getObjectDefinition() = 0;
     virtual TZelObjectMgr<IZelObjectInstance>* getObjectInstances() = 0;
     /// As IZelMgrRef::getLanguage and setLanguage.
@@ -170,11 +180,13 @@ public:
     virtual TZelObjectMgr<IZel3DPath>* get3DPaths() = 0;
     virtual TZelObjectMgr<IZelEnvironment>* getEnvironments() = 0;
     virtual TZelObjectMgr<IZelGround>* getGrounds() = 0;
+    /// Both give the same list.
     virtual TZelObjectMgr<IZelLayer>* getLayers() = 0;
     virtual TZelObjectMgr<IZelLayer>* getLayers2() = 0;
     /// Null: this version has no layer information.
     virtual IZelLayerInfo* getLayerInfo() = 0;
-    /// The internal components, each with a mesh of its own.
+    /// The internal components. Their identifiers, levels and meshes are loaded and saved; a name
+    /// that is set here is not saved, and one in the file passes untouched.
     virtual TZelObjectMgr<IZelZelObjectDefinition>* getDefinitions() = 0;
     /// The supplier of meshes for saves that are given none; returns the one before. Not counted.
     virtual IZelExtStorageWriter* setExtStorageWriter(IZelExtStorageWriter* writer) = 0;

@@ -33,6 +33,7 @@ public:
     virtual IZelProperty* newShader() = 0;
     /// Removes the given shader if it is the first one of the document; otherwise does nothing.
     virtual void removeShader(IZelProperty* property) = 0;
+    /// Part of the document and saved with it; changed in place.
     virtual CZelRenderParameters* getRenderParameters() = 0;
     /// The oldest library version that the running save promises to be readable by; 6.0.0 when no
     /// save runs.

@@ -20,7 +20,7 @@ public:
     /// The read transform: 16 doubles in row order, row vectors, translation in the last row.
     virtual const double* getMatrix() const = 0;
     /// Copies 16 doubles. The transform becomes active when at least one of them equals the
-    /// identity's element at its place; otherwise it is switched off.
+    /// identity's element at its place; otherwise it is switched off. Null changes nothing.
     virtual void setMatrix(const double* matrix) = 0;
     /// The three transforms work in place on three doubles and do nothing while switched off.
     virtual void transformNormal(double* normal) const = 0;

@@ -20,8 +20,10 @@ public:
     /// Takes the element out of from and inserts it at to, counted after the removal.
     virtual void moveObject(std::int32_t from, std::int32_t to) = 0;
     virtual void removeAllObjects() = 0;
-    /// Makes room for that many elements; false when there is no memory. Lists of plain records
-    /// take the number as their new capacity, but never less than the records that they hold.
+    /// Makes room for that many elements; false for a negative number or when there is no memory.
+    /// Lists of plain records take the number as their new capacity, but never less than the
+    /// records that they hold. When memory runs out they lose their records and warn
+    /// "No memory availiable" (sic), here and when a new record is made.
     virtual bool reserve(std::int32_t count) = 0;
 
 protected:

@@ -4,14 +4,15 @@
 
 namespace OvZel {
 
-/// A place on the earth, part of its owner. Nothing is clipped.
+/// A place on the earth, part of its owner. Nothing is clipped; a new place has zeros and no
+/// daylight time.
 class IZelPlace {
 public:
     virtual std::int32_t getLongitude() const = 0;
     virtual void setLongitude(std::int32_t longitude) = 0;
     virtual std::int32_t getLatitude() const = 0;
     virtual void setLatitude(std::int32_t latitude) = 0;
-    /// Minutes; 0 in a new place.
+    /// Minutes.
     virtual std::int32_t getTimeZone() const = 0;
     virtual void setTimeZone(std::int32_t minutes) = 0;
     virtual bool getDaylight() const = 0;

@@ -15,8 +15,8 @@ class IZelZelObjectDefinition : public IZelBasic {
 public:
     static constexpr CZelUUID sIID{"D66FB65A4D0D4A4B876154F36A73045E"};
 
-    /// The name in several languages. The name of the basic data is this one in the document's
-    /// current language.
+    /// The name in several languages; IZelMgr says whose name is saved. The name of the basic data
+    /// is this one in the document's current language.
     virtual const IZelString* getName() const = 0;
     virtual IZelString* getName() = 0;
     /// The mesh. That of the scene's own definition is never saved.

@@ -1,12 +1,10 @@
 #include "xml/tree/CXMLBufferedReader.h"
 
-#include "xml/tree/XMLTestSupport.h"
+#include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
 namespace OrvaneXML {
-
-using test::CTextSource;
 
 TEST(XmlBufferedReader, GivesAllBytesAndTakesOneBackAnywhere)
 {
@@ -14,7 +12,7 @@ TEST(XmlBufferedReader, GivesAllBytesAndTakesOneBackAnywhere)
     for (std::size_t i = 0; i < text.size(); ++i)
         text[i] = static_cast<char>(i * 7);
     for (std::size_t most : {std::size_t{1}, std::size_t{7}, std::size_t{100'000}}) {
-        CTextSource source(text, most);
+        CStepReadStream source(text, most);
         CXMLBufferedReader reader(&source);
         for (char c : text) {
             ASSERT_EQ(reader.ReadChar(), static_cast<unsigned char>(c));
@@ -29,7 +27,7 @@ TEST(XmlBufferedReader, GivesAllBytesAndTakesOneBackAnywhere)
 
 TEST(XmlBufferedReader, TakesBackAcrossARefill)
 {
-    CTextSource source("abcdef", 3);
+    CStepReadStream source("abcdef", 3);
     CXMLBufferedReader reader(&source);
     for (int i = 0; i < 3; ++i)
         reader.ReadChar();
@@ -41,7 +39,7 @@ TEST(XmlBufferedReader, TakesBackAcrossARefill)
 
 TEST(XmlBufferedReader, StretchesKeepWhatIsUnread)
 {
-    CTextSource source("abcdef", 4);
+    CStepReadStream source("abcdef", 4);
     CXMLBufferedReader reader(&source);
     EXPECT_EQ(reader.Begin(), reader.End());
     ASSERT_TRUE(reader.Refill());
@@ -58,7 +56,7 @@ TEST(XmlBufferedReader, StretchesKeepWhatIsUnread)
 
 TEST(XmlBufferedReader, AFullWindowDoesNotGrow)
 {
-    CTextSource source(std::string(200'000, 'x'));
+    CStepReadStream source(std::string(200'000, 'x'));
     CXMLBufferedReader reader(&source);
     ASSERT_TRUE(reader.Refill());
     EXPECT_FALSE(reader.Refill());

@@ -179,7 +179,9 @@ CXMLNode* CXMLElement::AppendCData(XIXMLData::IXMLCData* provider)
 
 void CXMLElement::SetCData(XIXMLData::IXMLCData* provider)
 {
-    auto* node = static_cast<CXMLCDataNode*>(FirstOf(EKind::CData));
+    CXMLCDataNode* node = Store().knownSection;
+    if (!node || node->ParentElement() != this)
+        node = static_cast<CXMLCDataNode*>(FirstOf(EKind::CData));
     if (node && provider)
         node->SetProvider(provider);
     else if (node)

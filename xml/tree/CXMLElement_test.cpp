@@ -1,6 +1,6 @@
 #include "xml/tree/CXMLElement.h"
 
-#include "xml/tree/XMLTestSupport.h"
+#include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 

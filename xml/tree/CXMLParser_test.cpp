@@ -1,6 +1,6 @@
 #include "xml/tree/CXMLParser.h"
 
-#include "xml/tree/XMLTestSupport.h"
+#include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +60,7 @@ const char* const kDocument = "<?xml version='1.0'?>\n<a x='1' y='&lt;'>\n <b/> 
 TEST(XmlParser, TellsEventsInOrder)
 {
     CLog log;
-    CTextSource source(kDocument);
+    CStepReadStream source(kDocument);
     EXPECT_TRUE(log.Parse(&source));
     EXPECT_EQ(log.log,
               "start;?xml|version='1.0';<a;@x=1;@y=<;<b;>2;' t&u ;!c;<c;[data;>3;>1;?end|;");
@@ -69,7 +69,7 @@ TEST(XmlParser, TellsEventsInOrder)
 TEST(XmlParser, FastParseSkipsSections)
 {
     CLog log;
-    CTextSource source(kDocument);
+    CStepReadStream source(kDocument);
     EXPECT_TRUE(log.FastParse(&source));
     EXPECT_EQ(log.log, "start;?xml|version='1.0';<a;@x=1;@y=<;<b;>2;' t&u ;!c;<c;>3;>1;?end|;");
 }
@@ -78,7 +78,7 @@ TEST(XmlParser, GoesOnBehindWhatTheHookLeft)
 {
     CLog log;
     log.nbToRead = 2;
-    CTextSource source("<a><![CDATA[data]]><b/></a>");
+    CStepReadStream source("<a><![CDATA[data]]><b/></a>");
     EXPECT_TRUE(log.Parse(&source));
     EXPECT_EQ(log.log, "start;<a;[da;<b;>2;>1;");
 }
@@ -87,7 +87,7 @@ TEST(XmlParser, AnInstructionCanStop)
 {
     CLog log;
     log.stopAt = "stop";
-    CTextSource source("<?go?><?stop now?><broken");
+    CStepReadStream source("<?go?><?stop now?><broken");
     EXPECT_FALSE(log.Parse(&source));
     EXPECT_EQ(log.log, "start;?go|;?stop|now;");
 }
@@ -96,16 +96,16 @@ TEST(XmlParser, WhatAHookThrowsPassesThrough)
 {
     CLog log;
     log.throwAt = "b";
-    CTextSource source("<a><b><broken");
-    EXPECT_EQ(thrownBy([&] { log.Parse(&source); }), "done");
+    CStepReadStream source("<a><b><broken");
+    EXPECT_EQ(messageOf([&] { log.Parse(&source); }), "done");
     EXPECT_EQ(log.log, "start;<a;");
 }
 
 TEST(XmlParser, SyntaxErrorsCarryTheLine)
 {
     CLog log;
-    CTextSource source("<a>\n\n</b>");
-    EXPECT_EQ(thrownBy([&] { log.Parse(&source); }),
+    CStepReadStream source("<a>\n\n</b>");
+    EXPECT_EQ(messageOf([&] { log.Parse(&source); }),
               "XML syntax error in line 3: end tag does not match");
 }
 
@@ -118,7 +118,7 @@ TEST(XmlParser, SlotsStandInTheirOrder)
     void* token = callSlot<void*>(log, 5, "e");
     callSlot<void>(log, 6, "n", "v");
     callSlot<void>(log, 7, "text");
-    CTextSource source("cdata");
+    CStepReadStream source("cdata");
     callSlot<void>(log, 8, static_cast<XIXMLReadStream*>(&source));
     callSlot<void>(log, 9, token);
     EXPECT_FALSE(callSlot<bool>(log, 10));

@@ -25,6 +25,9 @@ struct CXMLStore {
     CXMLCDataNode* sections =
         nullptr;           ///< all CDATA nodes, since their providers are not pool memory
     std::size_t nbBad = 0; ///< names, comments and instructions that XML cannot hold
+    /// The first section of the element that is being read, when it is known. Finding it among the
+    /// children again for each section would let a small file keep the reader busy for minutes.
+    CXMLCDataNode* knownSection = nullptr;
 
     template <class T, class... TArguments>
     T* New(TArguments&&... arguments)

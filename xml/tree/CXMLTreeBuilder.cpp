@@ -1,5 +1,6 @@
 #include "xml/tree/CXMLTreeBuilder.h"
 
+#include "xml/tree/CXMLCDataNode.h"
 #include "xml/tree/CXMLCommentNode.h"
 #include "xml/tree/CXMLInstructionNode.h"
 #include "xml/tree/CXMLOpaqueCData.h"
@@ -50,7 +51,7 @@ void CXMLTreeBuilder::Start()
     FlushText(nullptr);
     CXMLNames& names = mCurrent->Store().names;
     mCurrent = mCurrent->AppendElement(mScanner.Name());
-    mOpen.push_back({mWhite.size(), false});
+    mOpen.push_back({mWhite.size()});
     CXMLAttribute* last = nullptr;
     for (std::size_t i = 0; i < mScanner.NbAttributes(); ++i)
         last = mCurrent->AppendAttribute(last, names.Intern(mScanner.AttributeName(i)),
@@ -97,14 +98,33 @@ void CXMLTreeBuilder::Section()
 {
     if (!mReader)
         return KeepSection();
-    CXMLNode* last = mCurrent->LastChild();
     CXMLSectionStream stream(mScanner);
-    const bool isTaken = mReader->ReadCData(mCurrent, &stream);
-    CXMLNode* added = last ? last->Next() : mCurrent->FirstChild();
-    if (added)
-        FlushText(added);
-    if (!isTaken && !stream.IsTouched())
+    if (!Offer(stream) && !stream.IsTouched())
         KeepSection();
+}
+
+/// Gives the section to the callback, with the text in front of it put ahead of what that adds.
+bool CXMLTreeBuilder::Offer(CXMLSectionStream& stream)
+{
+    CXMLNode* last = mCurrent->LastChild();
+    CXMLStore& store = mCurrent->Store();
+    store.knownSection = mOpen.back().section;
+    const bool isTaken = mReader->ReadCData(mCurrent, &stream);
+    store.knownSection = nullptr;
+    if (CXMLNode* added = last ? last->Next() : mCurrent->FirstChild()) {
+        FlushText(added);
+        NoteSection(added);
+    }
+    return isTaken;
+}
+
+/// Remembers the first section at or behind a new child.
+void CXMLTreeBuilder::NoteSection(CXMLNode* node)
+{
+    while (node && node->Kind() != CXMLNode::EKind::CData)
+        node = node->Next();
+    if (!mOpen.back().section)
+        mOpen.back().section = static_cast<CXMLCDataNode*>(node);
 }
 
 void CXMLTreeBuilder::KeepSection()
@@ -115,7 +135,7 @@ void CXMLTreeBuilder::KeepSection()
     while (const std::uint32_t nb = mScanner.ReadSection(piece, sizeof piece))
         bytes.append(piece, nb);
     auto provider = std::make_unique<CXMLOpaqueCData>(std::move(bytes));
-    mCurrent->AppendCData(provider.get());
+    NoteSection(mCurrent->AppendCData(provider.get()));
     provider.release();
 }
 

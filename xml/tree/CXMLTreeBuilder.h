@@ -10,6 +10,9 @@
 
 namespace OrvaneXML {
 
+class CXMLCDataNode;
+class CXMLSectionStream;
+
 /// One reading of a document into the root of an empty tree.
 class CXMLTreeBuilder {
 public:
@@ -23,7 +26,8 @@ public:
 private:
     struct SOpen {
         std::size_t nbWhite; // of the elements around
-        bool hasElements;
+        bool hasElements = false;
+        CXMLCDataNode* section = nullptr; // the first one
     };
 
     void Start();
@@ -32,6 +36,8 @@ private:
     void FlushText(CXMLNode* before);
     void DropWhite();
     void Section();
+    bool Offer(CXMLSectionStream& stream);
+    void NoteSection(CXMLNode* node);
     void KeepSection();
 
     CXMLScanner mScanner;

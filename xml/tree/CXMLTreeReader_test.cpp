@@ -1,9 +1,10 @@
 #include "xml/tree/CXMLTreeReader.h"
 
-#include "xml/tree/XMLTestSupport.h"
+#include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
+#include <ctime>
 #include <functional>
 #include <vector>
 
@@ -173,6 +174,26 @@ TEST(XmlTreeReader, TextAroundASkippedSectionIsOneNode)
     EXPECT_EQ(text->GetNextNode(), nullptr);
 }
 
+TEST(XmlTreeReader, ManySectionsBehindManyElementsTakeNoSearchEach)
+{
+    constexpr int kNb = 100'000;
+    std::string text = "<a>";
+    for (int i = 0; i < kNb; ++i)
+        text += "<b/>";
+    for (int i = 0; i < kNb; ++i)
+        text += "<![CDATA[]]><c><![CDATA[]]></c>";
+    int nbSections = 0;
+    CCallback callback([&](XIXMLElement* element, auto*) {
+        element->SetCData(new CBytes(std::to_string(++nbSections)));
+        return true;
+    });
+    const std::clock_t start = std::clock();
+    const CTreePtr tree = readTree(text + "</a>", 1'000'000, &callback);
+    EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC); // a search each takes minutes
+    EXPECT_EQ(CBytes::nbAlive, kNb + 1);
+    EXPECT_EQ(written(*tree).substr(3 + 4 * kNb, 27), "<![CDATA[199999]]><c><![CDA");
+}
+
 TEST(XmlTreeReader, TheStreamEndsWithTheSection)
 {
     std::string seen;
@@ -210,7 +231,7 @@ TEST(XmlTreeReader, WhatTheCallbackThrowsPassesThrough)
         element->SetCData(new CBytes("x"));
         throw std::runtime_error("stop");
     });
-    EXPECT_EQ(thrownBy([&] { readTree("<a>t<![CDATA[1]]></a>", 1000, &callback); }), "stop");
+    EXPECT_EQ(messageOf([&] { readTree("<a>t<![CDATA[1]]></a>", 1000, &callback); }), "stop");
     EXPECT_EQ(CBytes::nbAlive, 0);
 }
 
@@ -233,7 +254,7 @@ TEST(XmlTreeReader, AnyChangedByteIsRefusedOrStable)
             std::string changed = text;
             changed[place] = static_cast<char>(byte);
             CTreePtr tree;
-            if (thrownBy([&] { tree = readTree(changed); }) != "")
+            if (messageOf([&] { tree = readTree(changed); }) != "no exception")
                 continue;
             ++nbRead;
             const std::string once = written(*tree);

@@ -1,6 +1,6 @@
 #include "xml/tree/CXMLWriter.h"
 
-#include "xml/tree/XMLTestSupport.h"
+#include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
@@ -17,8 +17,8 @@ protected:
     XIXMLElement* add(const char* name) { return top->AddElement(top->MakeKey(name)); }
     bool isRefused() const
     {
-        CTextSink sink;
-        const bool refused = thrownBy([&] { tree.Write(&sink); }) != "";
+        CTextWriteStream sink;
+        const bool refused = messageOf([&] { tree.Write(&sink); }) != "no exception";
         EXPECT_TRUE(!refused || sink.text.empty());
         return refused;
     }
@@ -168,7 +168,7 @@ TEST_F(XmlWriter, AnIncompleteSectionIsClosedAndReported)
 {
     add("a")->SetCData(new CBytes("half", false));
     add("b")->SetCData(new CBytes("", true));
-    CTextSink sink;
+    CTextWriteStream sink;
     EXPECT_FALSE(tree.Write(&sink));
     EXPECT_EQ(sink.text, "<top>\n\t<a><![CDATA[half]]></a>\n\t<b><![CDATA[]]></b>\n</top>\n");
     top->GetFirstElement()->SetCData(new CBytes("whole"));
@@ -203,8 +203,8 @@ TEST_F(XmlWriter, WhatAProviderThrowsStopsTheWrite)
     };
     add("a")->SetCData(new CThrowing);
     add("b");
-    CTextSink sink;
-    EXPECT_EQ(thrownBy([&] { tree.Write(&sink); }), "cancelled");
+    CTextWriteStream sink;
+    EXPECT_EQ(messageOf([&] { tree.Write(&sink); }), "cancelled");
     EXPECT_EQ(sink.text.find("<b/>"), std::string::npos);
 }
 

@@ -1,6 +1,6 @@
 #include "xml/tree/XCXMLTree.h"
 
-#include "xml/tree/XMLTestSupport.h"
+#include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
