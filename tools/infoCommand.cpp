@@ -63,8 +63,10 @@ static CInfo probe(const std::string& file)
     CInfo info;
     info.file = file;
     probeFormat(stream, info);
-    probeFileInfo(stream, info);
-    probePreview(stream, info); // last, since it leaves the stream where it stopped
+    if (info.readability != OvZel::IZelMgr::eUnknown) {
+        probeFileInfo(stream, info);
+        probePreview(stream, info); // last, since it leaves the stream where it stopped
+    }
     stream.check();
     return info;
 }
