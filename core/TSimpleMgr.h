@@ -47,6 +47,8 @@ public:
         std::memset(static_cast<void*>(record), 0, sizeof(T));
         return record;
     }
+    /// Keeps the memory when a smaller buffer cannot be had.
+    void releaseSpareRoom() noexcept;
     /// Copies records behind the last; false when memory runs out.
     bool append(const T* records, std::int32_t count);
 
@@ -135,6 +137,18 @@ T* TSimpleMgr<T>::newZelObject(std::int32_t index)
     std::memset(static_cast<void*>(record), 0, sizeof(T));
     ++mCount;
     return record;
+}
+
+template <class T>
+void TSimpleMgr<T>::releaseSpareRoom() noexcept
+{
+    if (mCount == mCapacity)
+        return;
+    const auto size = static_cast<std::size_t>(mCount > 0 ? mCount : 1) * sizeof(T);
+    if (void* records = std::realloc(static_cast<void*>(mRecords), size)) {
+        mRecords = static_cast<T*>(records);
+        mCapacity = mCount > 0 ? mCount : 1;
+    }
 }
 
 template <class T>

@@ -101,6 +101,19 @@ TEST(SimpleMgr, ReserveZeroGivesAnEmptyBufferBack)
     EXPECT_EQ(valuesOf(*manager), std::vector<double>{1});
 }
 
+TEST(SimpleMgr, GivesSpareRoomBackAndKeepsTheRecords)
+{
+    const TZelComPtr<TSimpleMgr<double>> list(new TSimpleMgr<double>(nullptr, 100));
+    *list->append() = 1.5;
+    list->releaseSpareRoom();
+    EXPECT_EQ(list->capacity(), 1);
+    ASSERT_EQ(list->size(), 1);
+    EXPECT_EQ(list->data()[0], 1.5);
+    list->removeAllObjects();
+    list->releaseSpareRoom();
+    EXPECT_EQ(list->capacity(), 1);
+}
+
 TEST(SimpleMgr, WarnsAndIsEmptyWhenThereIsNoMemory)
 {
     ZelTest::CTestDocument document;

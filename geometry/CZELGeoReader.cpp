@@ -30,7 +30,7 @@ CZELGeoReader::CZELGeoReader(IZelMgrRef& mgrRef, CPoints& points, CPolygons& pol
 CZELGeoReader::~CZELGeoReader()
 {
     if (mPoints->size() < mPointsRoom)
-        mPoints->reserve(mPoints->size());
+        mPoints->releaseSpareRoom();
     if (mPolygons->size() < mPolygonsRoom)
         mPolygons->releaseSpareRoom();
 }

@@ -77,9 +77,9 @@ private:
         {
             mStorage.note("points " + std::to_string(count));
         }
-        bool setPoint(const OvZel::CZelPoint* point, std::int32_t index) override
+        bool setPoint(const OvZel::CZelPoint* given, std::int32_t index) override
         {
-            mStorage.note("point " + std::to_string(index) + " " + std::to_string(point->x));
+            mStorage.note("point " + std::to_string(index) + " " + std::to_string(given->x));
             return mStorage.stumble();
         }
         void setNbPolygons(std::int32_t count) override
@@ -106,9 +106,9 @@ private:
         CWriter& operator=(const CWriter&) = delete;
 
         std::int32_t getNbPoints() override { return count(); }
-        bool getPoint(OvZel::CZelPoint* point, std::int32_t) override
+        bool getPoint(OvZel::CZelPoint* asked, std::int32_t) override
         {
-            *point = mStorage.point;
+            *asked = mStorage.point;
             return mStorage.stumble();
         }
         std::int32_t getNbPolygons() override { return count(); }
