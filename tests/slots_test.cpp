@@ -287,3 +287,34 @@ TEST(Slots, RecordsHaveTheirSizes)
     EXPECT_EQ(sizeof(CZelVersion), 12u);
     EXPECT_EQ(sizeof(EVersionZEL), 4u);
 }
+
+TEST(SlotsDeathTest, BehindEachInterfaceOfADocumentStandThreeObsoleteOnes)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    IZelMgr* document = nullptr;
+    IZelMgr::newZelMgr(&document, eVersionZel, nullptr);
+    ASSERT_NE(document, nullptr);
+    const struct {
+        const char* name;
+        void* object;
+        std::ptrdiff_t first;
+    } cases[] = {
+        {"IZelMgr", document, 53},
+        {"IZelMgrEx", document->getMgrEx(eVersionZel), 9},
+        {"IZelMgrRef", document->getObjectLink()->getMgrRef(), 11},
+        {"a list of objects", document->getImages(), 15},
+        {"a list of records", document->getPoints(), 15},
+        {"a list without elements", document->getLights(), 15},
+        {"IZelImage", document->getPreviewImage(), 11},
+        {"IZelFileInfo", document->getFileInfo(), 9},
+        {"IZelPolygon", document->getPolygons()->newZelObject(-1), 7},
+        {"IZelString", document->getObjectDefinition()->getName(), 8},
+    };
+    for (const auto& [name, object, first] : cases)
+        for (std::ptrdiff_t slot = first; slot < first + 3; ++slot)
+            EXPECT_EXIT(ZelTest::callSlot(object, slot), testing::ExitedWithCode(0),
+                        "ZEL Library is obsolete\n"
+                        "Please update ZEL Library and relaunch the application.")
+                << name << ", slot " << slot;
+    document->Release();
+}
