@@ -1,7 +1,6 @@
 #pragma once
 
 #include "core/TSharedPtr.h"
-#include "core/TZelWeakPtr.h"
 
 #include <cstdint>
 
@@ -12,27 +11,31 @@ namespace OvZel {
 template <class T>
 class CSelfBlock {
 public:
-    explicit CSelfBlock(T* object) : mWeak(new TSharedPtr<T>(object)) {}
-    ~CSelfBlock() { get()->resetPtr(); }
+    explicit CSelfBlock(T* object) : mBlock(new TSharedPtr<T>(object)) { mBlock->addWeakRef(); }
+    ~CSelfBlock()
+    {
+        mBlock->resetPtr();
+        mBlock->releaseWeakRef();
+    }
     CSelfBlock(const CSelfBlock&) = delete;
     CSelfBlock& operator=(const CSelfBlock&) = delete;
 
-    TZelSharedPtr<T>* get() const { return mWeak.getSharedPtr(); }
+    TZelSharedPtr<T>* get() const { return mBlock; }
 
     /// The count cannot be observed: both operations answer 1.
     std::uint32_t addRef() const
     {
-        get()->addRef();
+        mBlock->addRef();
         return 1;
     }
     std::uint32_t release() const
     {
-        get()->release();
+        mBlock->release();
         return 1;
     }
 
 private:
-    TZelWeakPtr<T> mWeak;
+    TSharedPtr<T>* mBlock; // by its final type, so that counting takes no virtual call
 };
 
 } // namespace OvZel

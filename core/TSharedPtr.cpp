@@ -1,20 +1,21 @@
 #include "core/TSharedPtr.h"
 
+#include "core/isSingleThreaded.h"
+
 namespace OvZel {
 
 namespace {
 
 constinit Orvane::XCMutexRecursive gCountMutex;
 
-/// Raises or lowers the count unless it is below the bound; says whether it did.
-bool change(std::atomic<std::uint32_t>& count, std::uint32_t bound, std::uint32_t by)
+/// Adds to the count, -1 as the largest number, and gives the value from before.
+std::uint32_t add(std::atomic<std::uint32_t>& count, std::uint32_t by)
 {
-    std::uint32_t value = count.load(std::memory_order_relaxed);
-    while (value >= bound)
-        if (count.compare_exchange_weak(value, value + by, std::memory_order_acq_rel,
-                                        std::memory_order_relaxed))
-            return true;
-    return false;
+    if (!isSingleThreaded())
+        return count.fetch_add(by, std::memory_order_acq_rel);
+    const std::uint32_t before = count.load(std::memory_order_relaxed);
+    count.store(before + by, std::memory_order_relaxed);
+    return before;
 }
 
 } // namespace
@@ -24,30 +25,31 @@ Orvane::XCMutexRecursive& countMutex()
     return gCountMutex;
 }
 
-void CZelSharedPtrBase::raiseStrong()
+void CZelSharedPtrBase::raiseStrongFromZero()
 {
-    if (change(mStrong, 1, 1))
-        return;
     const Orvane::XCMutexRecursive::CLock lock(gCountMutex);
-    if (mStrong.fetch_add(1, std::memory_order_acq_rel) == 0)
+    if (add(mStrong, 1) == 0)
         raiseWeak();
 }
 
-void CZelSharedPtrBase::lowerStrong(bool destroy)
+void CZelSharedPtrBase::lowerStrongToZero(bool destroy)
 {
-    if (change(mStrong, 2, static_cast<std::uint32_t>(-1)))
-        return;
     const Orvane::XCMutexRecursive::CLock lock(gCountMutex);
-    if (mStrong.fetch_sub(1, std::memory_order_acq_rel) != 1)
+    if (add(mStrong, kMinusOne) != 1)
         return;
     if (destroy)
         destroyObject();
     lowerWeak();
 }
 
+void CZelSharedPtrBase::raiseWeak()
+{
+    add(mWeak, 1);
+}
+
 void CZelSharedPtrBase::lowerWeak()
 {
-    if (mWeak.fetch_sub(1, std::memory_order_acq_rel) == 1)
+    if (add(mWeak, kMinusOne) == 1)
         destroyBlock();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/XCMutexRecursive.h"
+#include "core/isSingleThreaded.h"
 
 #include <zel/IZelSharedPtrBase.h>
 
@@ -48,7 +49,8 @@ protected:
 ///
 /// The strong side as a whole holds one weak count. A count that stays at one or more changes by
 /// compare-exchange; 0 to 1, 1 to 0 and destruction happen under the library-wide lock, which is
-/// recursive since the death of one object gives up references to others.
+/// recursive since the death of one object gives up references to others. While the process has
+/// one thread, plain operations do.
 class CZelSharedPtrBase {
 public:
     virtual void destroyObject() = 0;
@@ -56,12 +58,41 @@ public:
     virtual ~CZelSharedPtrBase() = default;
 
 protected:
-    void raiseStrong();
-    void lowerStrong(bool destroy);
-    void raiseWeak() { mWeak.fetch_add(1, std::memory_order_relaxed); }
+    static constexpr auto kMinusOne = static_cast<std::uint32_t>(-1);
+
+    void raiseStrong()
+    {
+        if (!change(mStrong, 1, 1))
+            raiseStrongFromZero();
+    }
+    void lowerStrong(bool destroy)
+    {
+        if (!change(mStrong, 2, kMinusOne))
+            lowerStrongToZero(destroy);
+    }
+    void raiseWeak();
     void lowerWeak();
 
 private:
+    /// Adds to the count unless it is below the bound; says whether it did.
+    static bool change(std::atomic<std::uint32_t>& count, std::uint32_t bound, std::uint32_t by)
+    {
+        std::uint32_t value = count.load(std::memory_order_relaxed);
+        if (isSingleThreaded()) {
+            if (value >= bound)
+                count.store(value + by, std::memory_order_relaxed);
+            return value >= bound;
+        }
+        while (value >= bound)
+            if (count.compare_exchange_weak(value, value + by, std::memory_order_acq_rel,
+                                            std::memory_order_relaxed))
+                return true;
+        return false;
+    }
+
+    void raiseStrongFromZero();
+    void lowerStrongToZero(bool destroy);
+
     std::atomic<std::uint32_t> mStrong{0};
     std::atomic<std::uint32_t> mWeak{0};
 };

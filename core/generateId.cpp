@@ -14,11 +14,11 @@ namespace {
 struct CRandomStore {
     std::array<CZelUUID, 64> ids{};
     std::size_t next = 64;
-    long process = 0;
+    unsigned forks = 0;
 
     CZelUUID draw()
     {
-        if (next == ids.size() || process != processNumber())
+        if (next == ids.size() || forks != forkCount())
             fill();
         return ids[next++];
     }
@@ -27,7 +27,7 @@ struct CRandomStore {
     {
         if (!systemRandom(ids.data(), sizeof ids))
             throw std::runtime_error("Can't create UUID");
-        process = processNumber();
+        forks = forkCount();
         next = 0;
     }
 };

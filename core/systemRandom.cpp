@@ -1,5 +1,7 @@
 #include "core/systemRandom.h"
 
+#include <atomic>
+#include <pthread.h>
 #include <sys/random.h>
 #include <unistd.h>
 
@@ -19,9 +21,14 @@ bool systemRandom(void* buffer, std::size_t size)
     return true;
 }
 
-long processNumber()
+unsigned forkCount()
 {
-    return static_cast<long>(getpid());
+    // Asking the system for the process number each time would cost more than an identifier.
+    static std::atomic<unsigned> count{0};
+    static const int registered =
+        pthread_atfork(nullptr, nullptr, [] { count.fetch_add(1, std::memory_order_relaxed); });
+    static_cast<void>(registered);
+    return count.load(std::memory_order_relaxed);
 }
 
 } // namespace OvZel

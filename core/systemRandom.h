@@ -7,7 +7,8 @@ namespace OvZel {
 /// Fills the buffer from the system's random source; false when there is none.
 bool systemRandom(void* buffer, std::size_t size);
 
-/// A number that differs between a process and those forked from it.
-long processNumber();
+/// How often this process was forked from one that asked here before: a number that differs between
+/// parent and child.
+unsigned forkCount();
 
 } // namespace OvZel
