@@ -3,9 +3,9 @@
 #include "core/CZelMgrRef.h"
 #include "core/OvThrow.h"
 #include "geometry/CPolygon.h"
-#include "geometry/kRoomAhead.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <stdexcept>
 
 namespace OvZel {
@@ -80,14 +80,54 @@ bool scanInteger(Source& in, std::int32_t& result)
     return true;
 }
 
+/// What each digit adds at each place behind the point: digit x weight, the weight of a place being
+/// 0.1 times that of the one before. Adding these products in order is what defines the value; a
+/// correctly rounded conversion gives other doubles for two numbers in five.
+struct CProducts {
+    static constexpr int kPlaces = 20;
+
+    constexpr CProducts()
+    {
+        double weight = 0.1;
+        for (auto& place : of) {
+            for (unsigned digit = 0; digit < 10; ++digit)
+                place[digit] = digit * weight;
+            weight *= 0.1;
+        }
+        nextWeight = weight;
+    }
+
+    double of[kPlaces][10]{};
+    double nextWeight = 0.0;
+};
+
+constexpr CProducts kProducts;
+
 template <class Source>
 double scanFraction(Source& in, double value)
 {
-    double weight = 0.1;
-    for (int c = in.ReadChar(); digitOf(c) <= 9; c = in.ReadChar()) {
-        value += digitOf(c) * weight;
-        weight *= 0.1;
+    int c = in.ReadChar();
+    for (int place = 0; place < CProducts::kPlaces; ++place, c = in.ReadChar()) {
+        if (digitOf(c) > 9)
+            return value;
+        value += kProducts.of[place][digitOf(c)];
     }
+    for (double weight = kProducts.nextWeight; digitOf(c) <= 9; c = in.ReadChar(), weight *= 0.1)
+        value += digitOf(c) * weight;
+    return value;
+}
+
+/// Up to 15 digits are exact in an integer and in a double alike, and an integer is quicker.
+template <class Source>
+double scanWhole(Source& in, int& c)
+{
+    constexpr std::uint64_t kExact = 100'000'000'000'000;
+    std::uint64_t start = 0;
+    for (; digitOf(c) <= 9 && start < kExact; c = in.ReadChar())
+        start = start * 10 + digitOf(c);
+    auto value = static_cast<double>(start);
+    for (; digitOf(c) <= 9; c = in.ReadChar())
+        value = value * 10.0 + digitOf(c);
     return value;
 }
 
@@ -98,9 +138,7 @@ bool scanDouble(Source& in, double& value, bool& negative, int& c)
     c = nextOfNumber(in, negative);
     if (digitOf(c) > 9 && c != '.')
         return false;
-    value = 0.0;
-    for (; digitOf(c) <= 9; c = in.ReadChar())
-        value = value * 10.0 + digitOf(c);
+    value = scanWhole(in, c);
     if (c == '.')
         value = scanFraction(in, value);
     return true;

@@ -1,17 +1,20 @@
 #include "geometry/CFastReader.h"
 
 #include "geometry/CPolygon.h"
-#include "tests/support/CStepReadStream.h"
 #include "tests/support/CTestBlockHost.h"
+#include "tests/support/CXMLTextSource.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
+using ZelTest::CXMLTextSource;
 
 namespace {
 
@@ -23,9 +26,9 @@ std::string outcome(const std::string& text, const std::function<std::string(CFa
                     std::vector<std::string>* messages = nullptr)
 {
     std::string first;
-    for (const std::size_t step : {CStepReadStream::kWhole, std::size_t{1}, std::size_t{7}}) {
+    for (const std::size_t step : {CXMLTextSource::kWhole, std::size_t{1}, std::size_t{7}}) {
         CTestBlockHost host;
-        CStepReadStream stream(text, step);
+        CXMLTextSource stream(text, step);
         OrvaneXML::CXMLBufferedReader buffered(&stream);
         CFastReader in(*CZelMgrRef::from(&host.blockMgrRef()), buffered);
         std::string result;
@@ -34,7 +37,7 @@ std::string outcome(const std::string& text, const std::function<std::string(CFa
         } catch (const std::runtime_error& failure) {
             result = failure.what();
         }
-        if (step == CStepReadStream::kWhole)
+        if (step == CXMLTextSource::kWhole)
             first = result;
         EXPECT_EQ(result, first) << text << " in steps of " << step;
         if (messages != nullptr)
@@ -217,4 +220,29 @@ TEST(FastReader, UnknownPolygonTypeIsPlain)
     EXPECT_EQ(messages, std::vector<std::string>{"Polygon type unknown"});
     EXPECT_EQ(outcome("", polygonText, &messages), kNoNumber);
     EXPECT_EQ(messages, std::vector<std::string>{"Polygon type unknown"});
+}
+
+TEST(FastReader, DoublesAreThoseOfTheDigitLoop)
+{
+    // The loop that defines the value, in its plainest form.
+    const auto defined = [](const std::string& text) {
+        const std::size_t point = text.find('.');
+        double value = 0.0, weight = 0.1;
+        for (const char digit : text.substr(0, point))
+            value = value * 10.0 + (digit - '0');
+        for (std::size_t i = point + 1; i < text.size(); ++i, weight *= 0.1)
+            value += (text[i] - '0') * weight;
+        return value;
+    };
+    std::mt19937 random(7);
+    for (int i = 0; i < 20'000; ++i) {
+        std::string text;
+        const auto nbWhole = random() % 25, nbBehind = random() % 40;
+        for (auto k = nbWhole; k > 0; --k)
+            text += static_cast<char>('0' + random() % 10);
+        text += '.';
+        for (auto k = nbBehind; k > 0; --k)
+            text += static_cast<char>('0' + random() % 10);
+        ASSERT_EQ(doubles(text + " ", 1), std::vector<double>{defined(text)}) << text;
+    }
 }

@@ -1,5 +1,7 @@
 #include "geometry/CFastWriter.h"
 
+#include "geometry/decimals.h"
+
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -21,8 +23,7 @@ double clamp(double value)
     return value > -kLargest ? value : -kLargest;
 }
 
-/// Adds half a unit of the sixth decimal, then cuts digits off until what is left over is no more
-/// than that addition may have brought in. The texts depend on the order of these operations.
+/// Adds half a unit of the sixth decimal and cuts. The texts depend on the order of the operations.
 char* putOrdinary(char* out, double value)
 {
     const double rounded = std::fabs(value) + 5e-7;
@@ -31,16 +32,7 @@ char* putOrdinary(char* out, double value)
     const auto whole = static_cast<std::uint32_t>(rounded);
     out = std::to_chars(out, out + 10, whole).ptr;
     *out++ = '.';
-    double rest = rounded - whole;
-    double tolerance = 1e-6;
-    do {
-        rest *= 10.0;
-        tolerance *= 10.0;
-        const int digit = static_cast<int>(rest);
-        *out++ = static_cast<char>('0' + digit);
-        rest -= digit;
-    } while (rest > tolerance && tolerance < 0.9);
-    return out;
+    return putDecimals(out, rounded - whole);
 }
 
 } // namespace
