@@ -8,6 +8,7 @@
 #include <string>
 
 using namespace OvZel;
+using ZelTest::messageOf;
 
 TEST(Throw, SaysWhatIsKnown)
 {

@@ -10,11 +10,10 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <stdexcept>
-#include <string>
 #include <thread>
 
 using namespace OvZel;
+using ZelTest::messageOf;
 
 namespace {
 

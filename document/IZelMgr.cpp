@@ -45,7 +45,7 @@ struct CHead {
         const std::int64_t start = stream.getPosition();
         try {
             if (startsWithMarkup(stream, start)) {
-                CZELXMLReadStream source(&stream);
+                CZELXMLReadStream source(&stream, CZELXMLReadStream::kHead);
                 file.Parse(&source);
                 stream.setPosition(start);
                 creator.Parse(&source);

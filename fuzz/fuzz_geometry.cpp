@@ -1,24 +1,23 @@
+#include "fuzz/check.h"
 #include "geometry/CGeometryBlockReader.h"
 #include "geometry/CPointsProvider.h"
 #include "geometry/CPolygonsProvider.h"
 #include "geometry/CZELGeoReader.h"
 #include "tests/support/CGeometrySection.h"
-#include "tests/support/CStepReadStream.h"
+#include "tests/support/COwnStorage.h"
+#include "tests/support/CXMLTextSource.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <stdexcept>
 
 using namespace OvZel;
+using ZelTest::CGeometrySection;
+using ZelTest::COwnStorage;
+using ZelTest::CTestBlockHost;
+using ZelTest::CXMLTextSource;
 
 namespace {
-
-void check(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 /// A mesh as a document keeps it.
 struct CMesh {
@@ -28,7 +27,7 @@ struct CMesh {
     void read(bool isPoints, const std::string& text, std::size_t step)
     {
         CTestBlockHost host;
-        CStepReadStream stream(text, step);
+        CXMLTextSource stream(text, step);
         OrvaneXML::CXMLBufferedReader in(&stream);
         CZELGeoReader storage(host.blockMgrRef(), *points, *polygons);
         CGeometryBlockReader reader(host, in, storage);
@@ -100,7 +99,7 @@ bool readBoth(CMesh& whole, CMesh& steps, bool isPoints, const std::string& text
 {
     bool good[2] = {true, true};
     try {
-        whole.read(isPoints, text, CStepReadStream::kWhole);
+        whole.read(isPoints, text, CXMLTextSource::kWhole);
     } catch (const std::runtime_error&) {
         good[0] = false;
     }
@@ -127,7 +126,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     compare(first, steps);
     if (!isGood)
         return 0;
-    second.read(isPoints, first.written(isPoints), CStepReadStream::kWhole);
+    second.read(isPoints, first.written(isPoints), CXMLTextSource::kWhole);
     compare(first, second);
     return 0;
 }

@@ -1,27 +1,23 @@
+#include "fuzz/check.h"
 #include "fuzz/hasLargePicture.h"
-#include "tests/support/CStepReadStream.h"
-#include "tests/support/CTextWriteStream.h"
+#include "tests/support/CXMLTextSource.h"
+#include "tests/support/CXMLTextTarget.h"
 #include "xml/XCXMLImage.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <exception>
 
 using OvZel::XCXMLImage;
+using ZelTest::CXMLTextSource;
+using ZelTest::CXMLTextTarget;
 
 namespace {
 
-void check(bool condition)
-{
-    if (!condition)
-        std::abort();
-}
-
 void readAgain(const XCXMLImage& image)
 {
-    CTextWriteStream written;
+    CXMLTextTarget written;
     image.WriteImage(written);
-    CStepReadStream stream(written.text);
+    CXMLTextSource stream(written.text);
     XCXMLImage again;
     again.ReadImage(stream);
     check(again.width() == image.width() && again.height() == image.height());
@@ -35,7 +31,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string text(reinterpret_cast<const char*>(data), size);
     if (hasLargePicture(text, ""))
         return 0;
-    CStepReadStream stream(text);
+    CXMLTextSource stream(text);
     XCXMLImage image;
     try {
         image.ReadImage(stream);

@@ -1,19 +1,12 @@
+#include "fuzz/check.h"
 #include "fuzz/hasLargePicture.h"
 #include "tests/support/CClientDocument.h"
-
-#include <cstdlib>
 
 // The probes end with an answer, and those that promise it put the stream back.
 
 namespace {
 
 using namespace OvZel;
-
-void check(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void probe(const std::string& text, std::size_t step)
 {

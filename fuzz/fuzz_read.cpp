@@ -1,7 +1,6 @@
+#include "fuzz/check.h"
 #include "fuzz/hasLargePicture.h"
 #include "tests/support/CClientDocument.h"
-
-#include <cstdlib>
 
 // Whatever a file holds, a load ends with true or with false and a message, and the width of the
 // steps in which the bytes arrive makes no difference.
@@ -9,12 +8,6 @@
 namespace {
 
 using ZelTest::CClientDocument;
-
-void check(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 } // namespace
 

@@ -1,19 +1,12 @@
+#include "fuzz/check.h"
 #include "fuzz/hasLargePicture.h"
 #include "tests/support/CClientDocument.h"
-
-#include <cstdlib>
 
 // What was read can be written, and what was written reads back to the same bytes.
 
 namespace {
 
 using ZelTest::CClientDocument;
-
-void check(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 std::string rewritten(const std::string& text)
 {

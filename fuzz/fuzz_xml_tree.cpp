@@ -1,27 +1,19 @@
-#include "tests/support/CStepReadStream.h"
-#include "tests/support/CTextWriteStream.h"
-#include "xml/tree/CXMLTreeReader.h"
+#include "fuzz/check.h"
+#include "tests/support/xmlTree.h"
 
-#include <cstdlib>
-#include <memory>
 #include <stdexcept>
 #include <string>
-#include <string_view>
 
 // What can be read can be written, and what was written reads back to the same bytes.
 
 namespace {
 
-using namespace OrvaneXML;
-
-std::string rewritten(std::string_view text)
+std::string rewritten(const std::string& text)
 {
-    CStepReadStream source{std::string(text)};
-    const std::unique_ptr<XCXMLTree> tree(CXMLTreeReader(nullptr).ReadTree(&source));
-    CTextWriteStream sink;
-    if (!tree->Write(&sink))
-        std::abort();
-    return sink.text;
+    const ZelTest::CTreePtr tree = ZelTest::readTree(text);
+    ZelTest::CXMLTextTarget target;
+    check(tree->Write(&target));
+    return target.text;
 }
 
 } // namespace
@@ -34,7 +26,6 @@ extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t siz
     } catch (const std::runtime_error&) {
         return 0;
     }
-    if (rewritten(once) != once) // also ends here if it no longer reads
-        std::abort();
+    check(rewritten(once) == once); // also ends here if it no longer reads
     return 0;
 }

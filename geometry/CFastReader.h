@@ -20,6 +20,10 @@ class CZelMgrRef;
 /// and so does the end of the stream.
 class CFastReader {
 public:
+    /// Counts in a file are claims: no more room than for this many records is made before the
+    /// records have arrived.
+    static constexpr std::int32_t kRoomAhead = 65'536;
+
     CFastReader(CZelMgrRef& mgrRef, OrvaneXML::CXMLBufferedReader& in) : mMgrRef(mgrRef), mIn(in) {}
 
     /// Too many digits wrap around. A point behind the digits raises "This is not a integer".

@@ -1,6 +1,6 @@
 #include "geometry/CFastWriter.h"
 
-#include "tests/support/CTextWriteStream.h"
+#include "tests/support/CXMLTextTarget.h"
 
 #include <gtest/gtest.h>
 
@@ -13,13 +13,14 @@
 #include <string>
 
 using namespace OvZel;
+using ZelTest::CXMLTextTarget;
 
 namespace {
 
 template <class Write>
 std::string written(Write write)
 {
-    CTextWriteStream stream;
+    CXMLTextTarget stream;
     CFastWriter out(stream);
     write(out);
     out.flush();
@@ -126,7 +127,7 @@ TEST(FastWriter, TextLargerThanItsBufferKeepsItsOrder)
 TEST(FastWriter, ShortCountFails)
 {
     for (const std::size_t limit : {0U, 1U, 7U}) {
-        CTextWriteStream stream(limit);
+        CXMLTextTarget stream(limit);
         CFastWriter out(stream);
         out.writeText("12345678");
         try {

@@ -2,8 +2,8 @@
 
 #include "geometry/CPolygon.h"
 #include "geometry/CZELGeoReader.h"
-#include "tests/support/CStepReadStream.h"
 #include "tests/support/CTestBlockHost.h"
+#include "tests/support/CXMLTextSource.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +12,8 @@
 #include <vector>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
+using ZelTest::CXMLTextSource;
 
 namespace {
 
@@ -56,9 +58,9 @@ constexpr CRead kPolygons = &CGeometryBlockReader::readPolygons;
 
 /// Gives the text of the failure, or none.
 std::string readBlock(CTestBlockHost& host, IZelExtStorageReader::IReader& storage, CRead read,
-                      const std::string& text, std::size_t step = CStepReadStream::kWhole)
+                      const std::string& text, std::size_t step = CXMLTextSource::kWhole)
 {
-    CStepReadStream stream(text, step);
+    CXMLTextSource stream(text, step);
     OrvaneXML::CXMLBufferedReader in(&stream);
     CGeometryBlockReader reader(host, in, storage);
     try {
@@ -107,7 +109,7 @@ TEST(GeometryBlockReader, TellsTheStorageInOrder)
         {kPolygons, "1 p 5 0 garbage", {"polygons 1", "0: 5, 0 vertices, 0 holes"}},
         {kPolygons, "1 h 5 1 0 ", {"polygons 1", "0: 5, 0 vertices, 0 holes"}},
     };
-    for (const std::size_t step : {CStepReadStream::kWhole, std::size_t{1}, std::size_t{7}}) {
+    for (const std::size_t step : {CXMLTextSource::kWhole, std::size_t{1}, std::size_t{7}}) {
         for (const auto& [read, text, calls] : cases) {
             CTestBlockHost host;
             CRecordingStorage storage;

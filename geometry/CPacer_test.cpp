@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
 
 namespace {
 

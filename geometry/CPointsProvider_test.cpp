@@ -2,10 +2,17 @@
 
 #include "geometry/CZELGeoWriter.h"
 #include "tests/support/CGeometrySection.h"
+#include "tests/support/COwnStorage.h"
+#include "tests/support/textOf.h"
 
 #include <gtest/gtest.h>
 
 using namespace OvZel;
+using ZelTest::CGeometrySection;
+using ZelTest::COwnStorage;
+using ZelTest::CTestBlockHost;
+using ZelTest::CXMLTextTarget;
+using ZelTest::textOf;
 
 namespace {
 
@@ -39,9 +46,7 @@ public:
 
     IWriter* createGeometryWriter(const CZelUUID* id) override
     {
-        char text[33];
-        id->toText(text);
-        calls.push_back(text);
+        calls.push_back(textOf(*id));
         return isMissing ? nullptr : new CWriter(*this);
     }
 
@@ -121,7 +126,7 @@ TEST(PointsProvider, NullNodeFails)
 {
     CTestBlockHost host;
     CPointsProvider provider(&host);
-    CTextWriteStream stream;
+    CXMLTextTarget stream;
     EXPECT_FALSE(provider.Write(&stream, nullptr, nullptr));
     EXPECT_EQ(host.messages, CTexts{"Unknown exception"});
 }

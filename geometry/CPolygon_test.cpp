@@ -5,9 +5,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
-
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
 using ZelTest::slotOf;
 
 namespace {

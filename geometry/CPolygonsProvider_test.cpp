@@ -2,12 +2,16 @@
 
 #include "geometry/CZELGeoWriter.h"
 #include "tests/support/CGeometrySection.h"
+#include "tests/support/COwnStorage.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 
 using namespace OvZel;
+using ZelTest::CGeometrySection;
+using ZelTest::COwnStorage;
+using ZelTest::CTestBlockHost;
 
 namespace {
 

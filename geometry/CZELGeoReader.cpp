@@ -1,6 +1,6 @@
 #include "geometry/CZELGeoReader.h"
 
-#include "geometry/kRoomAhead.h"
+#include "geometry/CFastReader.h"
 
 #include <algorithm>
 
@@ -14,7 +14,7 @@ constexpr const char* kNoPolygon = "CZELGeoReader::setPolygon - Can't allocate p
 std::int32_t replaceRecords(IZelObjectMgrBase& manager, std::int32_t count)
 {
     manager.removeAllObjects();
-    const std::int32_t room = std::clamp(count, 0, kRoomAhead);
+    const std::int32_t room = std::clamp(count, 0, CFastReader::kRoomAhead);
     if (room > 0)
         manager.reserve(room);
     return room;

@@ -12,6 +12,8 @@ namespace {
 using OvZel::CZelRenderParameters;
 using OvZel::CZelXMLAdd;
 using OvZel::CZelXMLGet;
+using ZelTest::CTestElement;
+using ZelTest::messageOf;
 
 std::string written(const CZelRenderParameters& parameters)
 {

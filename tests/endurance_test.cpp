@@ -1,20 +1,28 @@
 #include "tests/support/CClientDocument.h"
 #include "tests/support/peakMemory.h"
+#include "tests/support/repeated.h"
 #include "tests/support/smallScene.h"
+#include "tests/support/zelFile.h"
 
 #include <gtest/gtest.h>
 
 #include <ctime>
 #include <functional>
-#include <iomanip>
-#include <sstream>
 
 // What is done many times grows nothing, and what is large takes time in proportion to its size.
 
 using namespace OvZel;
 using ZelTest::CClientDocument;
+using ZelTest::component;
+using ZelTest::components;
 using ZelTest::heapInUse;
 using ZelTest::kSmallScene;
+using ZelTest::level;
+using ZelTest::numberedId;
+using ZelTest::pieces;
+using ZelTest::repeated;
+using ZelTest::section;
+using ZelTest::zelFile;
 
 namespace {
 
@@ -84,50 +92,13 @@ TEST(Endurance, DocumentsThatComeAndGoLeaveNothing)
 
 namespace {
 
-std::string file(const std::string& content)
-{
-    return "<?Zel library=\"6.0.6\" file=\"6.0\" min_version=\"6.0.0\" safe_version=\"6.0.4\"?>"
-           "<Zel.File>" +
-           content + "<Working.Window/></Zel.File>";
-}
-
-std::string id(int number)
-{
-    std::ostringstream out;
-    out << std::hex << std::uppercase << std::setw(32) << std::setfill('0') << number + 1;
-    return out.str();
-}
-
-using CPiece = std::function<std::string(int)>;
-
-std::string pieces(int nb, const CPiece& piece)
-{
-    std::string all;
-    for (int i = 0; i < nb; ++i)
-        all += piece(i);
-    return all;
-}
-
-CPiece same(const char* text)
-{
-    return [text](int) { return std::string(text); };
-}
-
 std::string inSection(const char* tag, const std::string& content)
 {
     return std::string("<") + tag + ">" + content + "</" + tag + ">";
 }
 
-std::string mesh(const char* tag)
-{
-    return std::string("<") + tag + "><![CDATA[0]]></" + tag + ">";
-}
-
-constexpr const char* kOpenComponent =
-    "<InternalComponentDefinitions><InternalComponentDefinition "
-    "UUID=\"BE47E8B0CAAACD0F6FBF214CEB78CD7F\"><Geometry.Level>0</Geometry.Level>";
-constexpr const char* kCloseComponent =
-    "</InternalComponentDefinition></InternalComponentDefinitions>";
+constexpr const char* kOuterId = "BE47E8B0CAAACD0F6FBF214CEB78CD7F";
+constexpr const char* kInnerId = "CE47E8B0CAAACD0F6FBF214CEB78CD7F";
 
 struct CLarge {
     const char* name;
@@ -142,25 +113,24 @@ void PrintTo(const CLarge& large, std::ostream* out)
 const CLarge kLarge[] = {
     {"Components",
      [](int nb) {
-         return inSection("InternalComponentDefinitions", pieces(nb, [](int i) {
-                              return "<InternalComponentDefinition UUID=\"" + id(i) +
-                                     "\"><Geometry.Level>0</Geometry.Level>" + mesh("Points") +
-                                     mesh("Polygons") + "</InternalComponentDefinition>";
-                          }));
+         return components(pieces(nb, [](int i) {
+             return component(numberedId(i),
+                              level(0) + section("Points", "0") + section("Polygons", "0"));
+         }));
      }},
     {"Images",
      [](int nb) {
          return inSection("Images", pieces(nb, [](int i) {
-                              return "<Image UUID=\"" + id(i) + "\"><![CDATA[]]></Image>";
+                              return section("Image", "", " UUID=\"" + numberedId(i) + "\"");
                           }));
      }},
-    {"Comments", [](int nb) { return pieces(2 * nb, same("<!--c-->")); }},
+    {"Comments", [](int nb) { return repeated("<!--c-->", 2 * nb); }},
     {"Attributes",
      [](int nb) {
          return "<a" + pieces(2 * nb, [](int i) { return " a" + std::to_string(i) + "=''"; }) +
                 "/>";
      }},
-    {"OneAttribute", [](int nb) { return "<a" + pieces(2 * nb, same(" a=''")) + "/>"; }},
+    {"OneAttribute", [](int nb) { return "<a" + repeated(" a=''", 2 * nb) + "/>"; }},
     {"AttributesOfAnImage",
      [](int nb) {
          return "<Image" + pieces(2 * nb, [](int i) { return " a" + std::to_string(i) + "=''"; }) +
@@ -177,42 +147,34 @@ const CLarge kLarge[] = {
                        }) +
                 "/></Object.Definition>";
      }},
-    {"Names", [](int nb) { return pieces(nb, [](int i) { return "<n" + id(i) + "/>"; }); }},
-    {"SectionsToDrop",
-     [](int nb) { return pieces(nb, same("<a/>")) + pieces(nb, same("<Heliodon/>")); }},
+    {"Names", [](int nb) { return pieces(nb, [](int i) { return "<n" + numberedId(i) + "/>"; }); }},
+    {"SectionsToDrop", [](int nb) { return repeated("<a/>", nb) + repeated("<Heliodon/>", nb); }},
     {"MeshesOfTheDocument",
-     [](int nb) { return pieces(nb, same("<a/>")) + pieces(nb, same("<Points/>")); }},
+     [](int nb) { return repeated("<a/>", nb) + repeated("<Points/>", nb); }},
     {"SettingsToRenew",
      [](int nb) {
-         return "<Tmp.Render.Parameters/>" + pieces(nb, same("<a/>")) +
-                pieces(nb, same("<Tmp.Render.Parameters/>"));
+         return "<Tmp.Render.Parameters/>" + repeated("<a/>", nb) +
+                repeated("<Tmp.Render.Parameters/>", nb);
      }},
     {"MeshesOfOneComponent",
      [](int nb) {
-         return kOpenComponent + pieces(nb, same("<Points><![CDATA[0]]></Points>")) +
-                kCloseComponent;
+         return components(
+             component(kOuterId, level(0) + repeated("<Points><![CDATA[0]]></Points>", nb)));
      }},
     {"MeshesWithoutLevel",
      [](int nb) {
-         return "<a><InternalComponentDefinition UUID=\"BE47E8B0CAAACD0F6FBF214CEB78CD7F\">" +
-                pieces(nb, same("<Points><![CDATA[0]]></Points>")) +
-                "</InternalComponentDefinition></a>";
+         return inSection("a", component(kOuterId, repeated("<Points><![CDATA[0]]></Points>", nb)));
      }},
     {"ComponentsInOneComponent",
      [](int nb) {
-         const std::string inner = "<InternalComponentDefinition "
-                                   "UUID=\"CE47E8B0CAAACD0F6FBF214CEB78CD7F\">"
-                                   "<Geometry.Level>0</Geometry.Level>" +
-                                   mesh("Points") + "</InternalComponentDefinition>";
-         return "<a><InternalComponentDefinition UUID=\"BE47E8B0CAAACD0F6FBF214CEB78CD7F\">" +
-                pieces(nb, same("<b/>")) + "<Geometry.Level>0</Geometry.Level>" +
-                pieces(nb, [&](int) { return inner + mesh("Points"); }) +
-                "</InternalComponentDefinition></a>";
+         const std::string points = section("Points", "0");
+         const std::string inner = component(kInnerId, level(0) + points);
+         return inSection("a", component(kOuterId, repeated("<b/>", nb) + level(0) +
+                                                       repeated(inner + points, nb)));
      }},
     {"SectionsOfOneMesh",
      [](int nb) {
-         return inSection("Points",
-                          pieces(nb, same("<!---->")) + pieces(nb, same("<![CDATA[0]]>")));
+         return inSection("Points", repeated("<!---->", nb) + repeated("<![CDATA[0]]>", nb));
      }},
     {"AllLanguages",
      [](int nb) {
@@ -225,25 +187,19 @@ const CLarge kLarge[] = {
                        }) +
                 "/></Object.Definition>";
      }},
-    {"UnknownSections", [](int nb) { return pieces(nb, same("<a><![CDATA[b]]></a>")); }},
-    {"SectionsOfOneElement",
-     [](int nb) { return inSection("a", pieces(nb, same("<![CDATA[b]]>"))); }},
-    {"Texts", [](int nb) { return inSection("a", pieces(nb, same("t<b/>"))); }},
-    {"References", [](int nb) { return inSection("a", pieces(nb, same("&amp;"))); }},
+    {"UnknownSections", [](int nb) { return repeated("<a><![CDATA[b]]></a>", nb); }},
+    {"SectionsOfOneElement", [](int nb) { return inSection("a", repeated("<![CDATA[b]]>", nb)); }},
+    {"Texts", [](int nb) { return inSection("a", repeated("t<b/>", nb)); }},
+    {"References", [](int nb) { return inSection("a", repeated("&amp;", nb)); }},
     {"Points",
-     [](int nb) {
-         return inSection("Points", "<![CDATA[" + std::to_string(nb) + " " +
-                                        pieces(nb, same("1 2 3 ")) + "]]>");
-     }},
+     [](int nb) { return section("Points", std::to_string(nb) + " " + repeated("1 2 3 ", nb)); }},
     {"Polygons",
      [](int nb) {
-         return inSection("Polygons", "<![CDATA[" + std::to_string(nb) + " " +
-                                          pieces(nb, same("p 0 1 0 ")) + "]]>");
+         return section("Polygons", std::to_string(nb) + " " + repeated("p 0 1 0 ", nb));
      }},
     {"Holes",
      [](int nb) {
-         return inSection("Polygons", "<![CDATA[1 h 0 " + std::to_string(nb) + " " +
-                                          pieces(nb, same("1 0 ")) + "]]>");
+         return section("Polygons", "1 h 0 " + std::to_string(nb) + " " + repeated("1 0 ", nb));
      }},
 };
 
@@ -275,7 +231,7 @@ TEST_P(LargeDocument, TakesTimeInProportion)
 {
     constexpr int kFactor = 8;
     const int nb = ZelTest::canMeterMemory() ? 100'000 : 24'000; // less where all is slow
-    const auto textOf = [](int count) { return file(GetParam().content(count)); };
+    const auto textOf = [](int count) { return zelFile(GetParam().content(count)); };
     secondsFor(textOf(nb / kFactor)); // warms the memory up
     const double part = secondsFor(textOf(nb / kFactor));
     const double whole = secondsFor(textOf(nb));

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
+#include <cstring>
 #include <limits>
 
 // Files that are broken and streams that misbehave: a load ends with true, or with false and a
@@ -53,29 +53,14 @@ std::string changedAt(std::size_t place, char value)
     return text;
 }
 
-/// What a stream does once so many bytes have been read, told by what its read returns there.
-class CFailingStream : public IZelReadStream {
-public:
-    using CFailure = std::function<std::uint32_t(void* buffer, std::uint32_t size)>;
-
-    CFailingStream(std::size_t after, CFailure failure)
-        : mStream(kSmallScene, 100), mAfter(static_cast<std::int64_t>(after)),
-          mFailure(std::move(failure))
-    {
-    }
-
-    std::uint32_t read(void* buffer, std::uint32_t size) override
-    {
-        return mStream.getPosition() < mAfter ? mStream.read(buffer, size) : mFailure(buffer, size);
-    }
-    std::int64_t getPosition() override { return mStream.getPosition(); }
-    void setPosition(std::int64_t position) override { mStream.setPosition(position); }
-
-private:
-    CMemoryReadStream mStream;
-    std::int64_t mAfter;
-    CFailure mFailure;
-};
+/// The small scene; what a read does once so many bytes have been read, the failure says.
+CMemoryReadStream failingStream(std::size_t after, CMemoryReadStream::CFailure failure)
+{
+    CMemoryReadStream stream(kSmallScene, 100);
+    stream.failsAt = after;
+    stream.failure = std::move(failure);
+    return stream;
+}
 
 std::vector<std::string> messagesOfFailedLoad(IZelReadStream& stream)
 {
@@ -147,13 +132,13 @@ TEST(HostileStream, TheWidthOfTheStepsMakesNoDifference)
 TEST(HostileStream, ARaisedExceptionIsTheMessageWhereverItIsRaised)
 {
     for (std::size_t after = 0; after < std::strlen(kSmallScene); after += 100) {
-        CFailingStream known(
+        auto known = failingStream(
             after, [](void*, std::uint32_t) -> std::uint32_t { throw std::runtime_error("disk"); });
         const auto messages = messagesOfFailedLoad(known);
         ASSERT_FALSE(messages.empty()) << after;
         EXPECT_EQ(messages.back(), "disk") << after;
 
-        CFailingStream unknown(after, [](void*, std::uint32_t) -> std::uint32_t { throw 1; });
+        auto unknown = failingStream(after, CMemoryReadStream::throwInt);
         EXPECT_EQ(messagesOfFailedLoad(unknown).back(), "Unknown reading error") << after;
     }
 }
@@ -161,7 +146,7 @@ TEST(HostileStream, ARaisedExceptionIsTheMessageWhereverItIsRaised)
 TEST(HostileStream, AnEarlyEndFailsWithAMessage)
 {
     for (std::size_t after = 0; after < std::strlen(kSmallScene) - 100; after += 100) {
-        CFailingStream stream(after, [](void*, std::uint32_t) { return 0U; });
+        auto stream = failingStream(after, [](void*, std::uint32_t) { return 0U; });
         EXPECT_FALSE(messagesOfFailedLoad(stream).empty()) << after;
     }
 }
@@ -169,7 +154,7 @@ TEST(HostileStream, AnEarlyEndFailsWithAMessage)
 TEST(HostileStream, ACountAboveTheOneAskedForIsNotBelieved)
 {
     for (const std::uint32_t excess : {1U, 1000U, std::numeric_limits<std::uint32_t>::max()}) {
-        CFailingStream stream(300, [excess](void* buffer, std::uint32_t size) {
+        auto stream = failingStream(300, [excess](void* buffer, std::uint32_t size) {
             std::memset(buffer, 'x', size);
             return size > std::numeric_limits<std::uint32_t>::max() - excess
                        ? std::numeric_limits<std::uint32_t>::max()
@@ -177,7 +162,7 @@ TEST(HostileStream, ACountAboveTheOneAskedForIsNotBelieved)
         });
         // Such a stream never ends, so that a name without end must be stopped by the test.
         int nbReads = 0;
-        CFailingStream ending(300, [&](void* buffer, std::uint32_t size) {
+        auto ending = failingStream(300, [&](void* buffer, std::uint32_t size) {
             return ++nbReads > 20 ? 0U : stream.read(buffer, size);
         });
         EXPECT_FALSE(messagesOfFailedLoad(ending).empty()) << excess;
@@ -224,7 +209,7 @@ TEST(HostileStream, PositionsThatFailAreTold)
 
 TEST(HostileStream, ProbesSwallowWhatTheStreamRaises)
 {
-    CFailingStream stream(0, [](void*, std::uint32_t) -> std::uint32_t { throw 1; });
+    auto stream = failingStream(0, CMemoryReadStream::throwInt);
     expectNoAnswer(stream);
     IZelImage* preview = nullptr;
     IZelMgr::readPreviewImage(&preview, &stream);
@@ -234,25 +219,6 @@ TEST(HostileStream, ProbesSwallowWhatTheStreamRaises)
     EXPECT_EQ(document.takeMessages(), std::vector<std::string>{});
 }
 
-namespace {
-
-class CFullDisk : public IZelWriteStream {
-public:
-    explicit CFullDisk(std::size_t room) : mRoom(room) {}
-    std::uint32_t write(const void*, std::uint32_t size) override
-    {
-        if (size > mRoom)
-            throw std::runtime_error("disk full");
-        mRoom -= size;
-        return size;
-    }
-
-private:
-    std::size_t mRoom;
-};
-
-} // namespace
-
 TEST(HostileStream, ASaveThatFailedCanBeRepeated)
 {
     CClientDocument document;
@@ -260,7 +226,8 @@ TEST(HostileStream, ASaveThatFailedCanBeRepeated)
     const std::string saved = document.save();
     document.takeMessages();
     for (std::size_t room = 0; room < saved.size(); room += 97) {
-        CFullDisk disk(room);
+        CMemoryWriteStream disk;
+        disk.room = room;
         EXPECT_FALSE(document->write(&disk, nullptr)) << room;
         const auto messages = document.takeMessages();
         EXPECT_FALSE(messages.empty()) << room;

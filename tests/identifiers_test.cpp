@@ -1,3 +1,5 @@
+#include "tests/support/textOf.h"
+
 #include <zel/IZelMgr.h>
 
 #include <gtest/gtest.h>
@@ -140,11 +142,8 @@ const CRow kRows[] = {
 TEST(Identifiers, HaveTheirPublishedTexts)
 {
     ASSERT_EQ(std::size(kRows), 116u);
-    for (const CRow& row : kRows) {
-        char text[33];
-        row.constant->toText(text);
-        EXPECT_STREQ(text, row.text);
-    }
+    for (const CRow& row : kRows)
+        EXPECT_EQ(ZelTest::textOf(*row.constant), row.text);
 }
 
 TEST(Identifiers, OneTextStandsTwiceAndNoOtherDoes)

@@ -1,31 +1,28 @@
 #include "tests/support/CClientDocument.h"
 #include "tests/support/peakMemory.h"
+#include "tests/support/repeated.h"
+#include "tests/support/zelFile.h"
 
 #include <gtest/gtest.h>
-
-#include <iomanip>
-#include <sstream>
 
 // The limits of docs/limits.md: what is refused, and how much memory a claim can take.
 
 using namespace OvZel;
 using ZelTest::CClientDocument;
 using ZelTest::peakMemoryOf;
+using ZelTest::pieces;
+using ZelTest::repeated;
+using ZelTest::section;
 
 namespace {
 
 constexpr std::size_t kMegabyte = 1024 * 1024;
 
+/// A file of a version whose preview is decoded too.
 std::string file(const std::string& content)
 {
-    return "<?Zel library=\"4.0.0\" file=\"4.0\" min_version=\"4.0.0\" safe_version=\"4.0.0\"?>"
-           "<Zel.File>" +
-           content + "<Working.Window/></Zel.File>";
-}
-
-std::string section(const std::string& tag, const std::string& bytes)
-{
-    return "<" + tag + "><![CDATA[" + bytes + "]]></" + tag + ">";
+    return ZelTest::zelFile(content, "<?Zel library=\"4.0.0\" file=\"4.0\" "
+                                     "min_version=\"4.0.0\" safe_version=\"4.0.0\"?>");
 }
 
 std::string image(const std::string& bytes)
@@ -33,46 +30,24 @@ std::string image(const std::string& bytes)
     return file("<Images>" + section("Image", bytes) + "</Images>");
 }
 
-/// A component whose blocks claim more than they have.
-std::string component(int number)
+/// Components whose blocks claim more than they have.
+std::string claimingComponents(int nb)
 {
-    std::ostringstream out;
-    out << "<InternalComponentDefinition UUID=\"" << std::setw(32) << std::setfill('0')
-        << number + 1 << "\"><Geometry.Level>0</Geometry.Level>" << section("Points", "9999999")
-        << section("Polygons", "9999999") << "</InternalComponentDefinition>";
-    return out.str();
-}
-
-std::string repeated(const std::string& text, int nb)
-{
-    std::string all;
-    for (int i = 0; i < nb; ++i)
-        all += text;
-    return all;
-}
-
-std::string components(int nb)
-{
-    std::string all;
-    for (int i = 0; i < nb; ++i)
-        all += component(i);
-    return "<InternalComponentDefinitions>" + all + "</InternalComponentDefinitions>";
+    return ZelTest::components(pieces(nb, [](int i) {
+        return ZelTest::component(ZelTest::numberedId(i), ZelTest::level(0) +
+                                                              section("Points", "9999999") +
+                                                              section("Polygons", "9999999"));
+    }));
 }
 
 std::string manyNames(int nb)
 {
-    std::string all;
-    for (int i = 0; i < nb; ++i)
-        all += "<n" + std::to_string(i) + "/>";
-    return all;
+    return pieces(nb, [](int i) { return "<n" + std::to_string(i) + "/>"; });
 }
 
 std::string manyAttributes(int nb)
 {
-    std::string all = "<a";
-    for (int i = 0; i < nb; ++i)
-        all += " a" + std::to_string(i) + "=''";
-    return all + "/>";
+    return "<a" + pieces(nb, [](int i) { return " a" + std::to_string(i) + "=''"; }) + "/>";
 }
 
 std::string nested(int depth)
@@ -104,7 +79,7 @@ std::vector<CClaim> claims()
         {"negative counts", file(section("Points", "-1") + section("Polygons", "-2147483648"))},
         {"blocks",
          file(repeated(section("Points", "9999999") + section("Polygons", "9999999"), 60))},
-        {"components", file(components(40))},
+        {"components", file(claimingComponents(40))},
         {"a picture", image(picture)},
         {"pictures", file("<Images>" + repeated(section("Image", picture), 80) + "</Images>")},
         {"a literal stretch", image(picture + "0FFFFFFF"

@@ -1,5 +1,6 @@
 #include "tests/support/CClientDocument.h"
 #include "tests/support/CClientStorage.h"
+#include "tests/support/textOf.h"
 #include "tests/support/zelFile.h"
 
 #include <gmock/gmock.h>
@@ -18,37 +19,29 @@ using testing::Not;
 using ZelTest::CClientDocument;
 using ZelTest::CClientStorage;
 using ZelTest::CMemoryReadStream;
+using ZelTest::component;
+using ZelTest::components;
+using ZelTest::kIdA;
+using ZelTest::kIdB;
+using ZelTest::kNoId;
+using ZelTest::kRed;
+using ZelTest::level;
+using ZelTest::section;
 using ZelTest::zelFile;
 
-using CMessages = std::vector<std::string>;
+using CMessages = CClientDocument::CMessages;
 
-const std::string kIdA(32, 'A');
-const std::string kIdB(32, 'B');
-const std::string kNoId(32, '0');
-/// One pixel each; the first byte is red.
-const std::string kRed = "00000001000000010000000100000001FFFF0000";
+/// As kRed, in another colour.
 const std::string kBlue = "00000001000000010000000100000001FF0000FF";
-
-std::string cdata(const std::string& tag, const std::string& bytes,
-                  const std::string& attributes = "")
-{
-    return "<" + tag + attributes + "><![CDATA[" + bytes + "]]></" + tag + ">";
-}
 
 std::string image(const std::string& id, const std::string& bytes)
 {
-    return cdata("Image", bytes, id.empty() ? "" : " UUID=\"" + id + "\"");
+    return section("Image", bytes, id.empty() ? "" : " UUID=\"" + id + "\"");
 }
 
-std::string wrapper(const std::string& id, int level, const std::string& inside)
+std::string wrapper(const std::string& id, int value, const std::string& inside)
 {
-    return "<InternalComponentDefinition UUID=\"" + id + "\"><Geometry.Level>" +
-           std::to_string(level) + "</Geometry.Level>" + inside + "</InternalComponentDefinition>";
-}
-
-std::string components(const std::string& wrappers)
-{
-    return "<InternalComponentDefinitions>" + wrappers + "</InternalComponentDefinitions>";
+    return component(id, level(value) + inside);
 }
 
 /// A points block whose points have these x.
@@ -57,12 +50,12 @@ std::string points(const std::vector<int>& xs)
     std::string text = std::to_string(xs.size());
     for (const int x : xs)
         text += " " + std::to_string(x) + " 0 0";
-    return cdata("Points", text + " ");
+    return section("Points", text + " ");
 }
 
 std::string polygons(int material)
 {
-    return cdata("Polygons", "1 p\t" + std::to_string(material) + " 3 0 1 2 ");
+    return section("Polygons", "1 p\t" + std::to_string(material) + " 3 0 1 2 ");
 }
 
 std::vector<int> xOf(TZelObjectMgr<CZelPoint>* list)
@@ -75,9 +68,7 @@ std::vector<int> xOf(TZelObjectMgr<CZelPoint>* list)
 
 std::string idOf(IZelBasic* object)
 {
-    char text[33];
-    object->getBasicData()->getId()->toText(text);
-    return text;
+    return ZelTest::textOf(*object->getBasicData()->getId());
 }
 
 /// "RRGGBB" of the first pixel, "none" without a picture.
@@ -150,11 +141,9 @@ TEST(Load, ANullStreamAndABrokenOneFail)
     EXPECT_FALSE(document->read(&stream, nullptr));
     EXPECT_THAT(document.takeMessages(), ElementsAre("stream broke"));
 
-    class CStream : public CMemoryReadStream {
-    public:
-        CStream() : CMemoryReadStream("") {}
-        std::uint32_t read(void*, std::uint32_t) override { throw 1; }
-    } odd;
+    CMemoryReadStream odd("");
+    odd.failsAt = 0;
+    odd.failure = CMemoryReadStream::throwInt;
     EXPECT_FALSE(document->read(&odd, nullptr));
     EXPECT_THAT(document.takeMessages(), ElementsAre("Unknown reading error"));
 }
@@ -292,7 +281,7 @@ TEST(Load, TheOldTreeStaysUntilTheNewOneIsWhole)
 
 TEST(Load, DecodesThePreviewOfOldFilesAlone)
 {
-    const std::string preview = cdata("Preview.Image", kRed);
+    const std::string preview = section("Preview.Image", kRed);
     const struct {
         const char* format;
         const char* color;
@@ -310,7 +299,7 @@ TEST(Load, DecodesThePreviewOfOldFilesAlone)
         EXPECT_EQ(colorOf(document->getPreviewImage()), item.color) << item.format;
         EXPECT_THAT(document.takeMessages(), IsEmpty());
         const std::string bytes = std::string(item.color) == "none" ? "" : kRed;
-        EXPECT_THAT(document.save(), HasSubstr(cdata("Preview.Image", bytes))) << item.format;
+        EXPECT_THAT(document.save(), HasSubstr(section("Preview.Image", bytes))) << item.format;
     }
 }
 
@@ -319,8 +308,8 @@ TEST(Load, APreviewThatTheClientSetStaysOverTheLoadOfANewFile)
     CClientDocument document;
     const std::uint8_t red[] = {0xFF, 0, 0, 0xFF};
     document->getPreviewImage()->setImage(1, 1, red);
-    EXPECT_TRUE(document.read(zelFile(cdata("Preview.Image", kBlue))));
-    EXPECT_THAT(document.save(), HasSubstr(cdata("Preview.Image", kRed)));
+    EXPECT_TRUE(document.read(zelFile(section("Preview.Image", kBlue))));
+    EXPECT_THAT(document.save(), HasSubstr(section("Preview.Image", kRed)));
 }
 
 // Images
@@ -385,7 +374,7 @@ TEST(ReadCData, RefillsPicturesAndMeshesAndNothingElse)
 TEST(ReadCData, TellsItsFailuresAsALoadDoes)
 {
     CClientDocument document;
-    document.readCData("<A>" + cdata("B", "x") + points({1}) + "</Wrong>");
+    document.readCData("<A>" + section("B", "x") + points({1}) + "</Wrong>");
     const CMessages messages = document.takeMessages();
     ASSERT_EQ(messages.size(), 2U);
     EXPECT_EQ(messages[0], "Error \"CData block unknown\" while parsing 'B' data block");
@@ -504,18 +493,18 @@ TEST(Load, ABlockThatFailsIsToldAndSkipped)
     const struct {
         std::string block, message;
     } cases[] = {
-        {cdata("Points", "2 1 2 3 "), "Error \"This is not a number\" while parsing 'Points'"},
-        {cdata("Points", "abc"), "Error \"This is not a number\" while parsing 'Points'"},
-        {cdata("Points", "7. "), "Error \"This is not a integer\" while parsing 'Points'"},
-        {cdata("Points", ""), "Error \"This is not a number\" while parsing 'Points'"},
-        {cdata("Polygons", "1 p\t1 3 0 1 "),
+        {section("Points", "2 1 2 3 "), "Error \"This is not a number\" while parsing 'Points'"},
+        {section("Points", "abc"), "Error \"This is not a number\" while parsing 'Points'"},
+        {section("Points", "7. "), "Error \"This is not a integer\" while parsing 'Points'"},
+        {section("Points", ""), "Error \"This is not a number\" while parsing 'Points'"},
+        {section("Polygons", "1 p\t1 3 0 1 "),
          "Error \"This is not a number\" while parsing 'Polygons'"},
-        {cdata("Unknown", "1 2"), "Error \"CData block unknown\" while parsing 'Unknown'"},
+        {section("Unknown", "1 2"), "Error \"CData block unknown\" while parsing 'Unknown'"},
     };
     for (const auto& item : cases) {
         CClientDocument document;
         EXPECT_TRUE(document.read(
-            zelFile(item.block + "<Save.Url>behind</Save.Url>" + cdata("Image", kRed))));
+            zelFile(item.block + "<Save.Url>behind</Save.Url>" + section("Image", kRed))));
         EXPECT_THAT(document.takeMessages(), ElementsAre(item.message + " data block"));
         EXPECT_STREQ(document->getURL(), "behind");
         EXPECT_THAT(colorsOf(document), ElementsAre("FF0000"));
@@ -525,7 +514,7 @@ TEST(Load, ABlockThatFailsIsToldAndSkipped)
 TEST(Load, RecordsAheadOfAFailureStayInTheMesh)
 {
     CClientDocument document;
-    EXPECT_TRUE(document.read(zelFile(cdata("Points", "3 1 0 0 2 0 0 x"))));
+    EXPECT_TRUE(document.read(zelFile(section("Points", "3 1 0 0 2 0 0 x"))));
     EXPECT_EQ(document.takeMessages().size(), 1U);
     EXPECT_THAT(xOf(document->getPoints()), ElementsAre(1, 2));
 }
@@ -591,7 +580,7 @@ TEST(LoadStorage, AnAbsurdCountWarnsAndReachesTheClientAsItIs)
     CClientDocument document;
     CClientStorage storage;
     EXPECT_TRUE(document.read(
-        zelFile(cdata("Points", "-3 ") + cdata("Polygons", "10000000 p\t1 0 ")), &storage));
+        zelFile(section("Points", "-3 ") + section("Polygons", "10000000 p\t1 0 ")), &storage));
     EXPECT_THAT(storage.calls,
                 ElementsAre("reader " + kNoId + " zero", "points -3", "reader " + kNoId + " zero",
                             "polygons 10000000", "polygon 0 1"));
@@ -605,8 +594,9 @@ TEST(LoadStorage, AnAbsurdCountWarnsAndReachesTheClientAsItIs)
 
 std::string fileWithBlocks()
 {
-    return zelFile("<Save.Url>new</Save.Url>" + cdata("Unknown", "x") + points({1}) + polygons(2) +
-                   components(wrapper(kIdA, 0, points({3}) + polygons(4))) + image(kIdB, kRed));
+    return zelFile("<Save.Url>new</Save.Url>" + section("Unknown", "x") + points({1}) +
+                   polygons(2) + components(wrapper(kIdA, 0, points({3}) + polygons(4))) +
+                   image(kIdB, kRed));
 }
 
 TEST(LoadCancel, EndsTheLoadAtEachProgressCall)
@@ -657,7 +647,7 @@ TEST(Load, AMessageThatThrowsChangesNothing)
     } feedback;
     IZelMgr* document = nullptr;
     IZelMgr::newZelMgr(&document, eVersionZel, &feedback);
-    CMemoryReadStream stream(zelFile(cdata("Unknown", "x") + points({1})));
+    CMemoryReadStream stream(zelFile(section("Unknown", "x") + points({1})));
     EXPECT_TRUE(document->read(&stream, nullptr));
     EXPECT_EQ(document->getPoints()->getNbObjects(), 1);
     CMemoryReadStream bad("");

@@ -1,4 +1,5 @@
 #include "tests/support/CClientDocument.h"
+#include "tests/support/textOf.h"
 #include "tests/support/zelFile.h"
 
 #include <gtest/gtest.h>
@@ -325,11 +326,10 @@ CFileInfo fileInfoOf(const std::string& text)
         found.text = "none";
         return found;
     }
-    char id[33];
-    info->getBasicData()->getId()->toText(id);
     const double* origin = info->getOrigin();
+    const std::string id = ZelTest::textOf(*info->getBasicData()->getId());
     char line[128];
-    std::snprintf(line, sizeof line, "%g %g %g %s", origin[0], origin[1], origin[2], id);
+    std::snprintf(line, sizeof line, "%g %g %g %s", origin[0], origin[1], origin[2], id.c_str());
     found.text = line;
     info->Release();
     return found;
@@ -391,11 +391,9 @@ TEST(ReadFileInfo, SyntaxErrorsArePrintedOnceForEachParse)
 
 TEST(ReadFileInfo, WhatIsNoStandardExceptionHasALineOfItsOwn)
 {
-    class CStream : public CMemoryReadStream {
-    public:
-        CStream() : CMemoryReadStream("") {}
-        std::uint32_t read(void*, std::uint32_t) override { throw 1; }
-    } stream;
+    CMemoryReadStream stream("");
+    stream.failsAt = 0;
+    stream.failure = CMemoryReadStream::throwInt;
     OvZel::IZelFileInfo* info = nullptr;
     testing::internal::CaptureStdout();
     IZelMgr::readFileInfo(&info, &stream);

@@ -18,39 +18,21 @@ using ZelTest::CClientDocument;
 using ZelTest::CClientStorage;
 using ZelTest::CMemoryReadStream;
 using ZelTest::CMemoryWriteStream;
+using ZelTest::component;
+using ZelTest::components;
+using ZelTest::kIdA;
+using ZelTest::kIdB;
+using ZelTest::kIdC;
+using ZelTest::kNoId;
+using ZelTest::kRed;
+using ZelTest::level;
+using ZelTest::section;
 using ZelTest::zelFile;
 
-using CMessages = std::vector<std::string>;
-
-const std::string kIdA(32, 'A');
-const std::string kIdB(32, 'B');
-const std::string kIdC(32, 'C');
-const std::string kNoId(32, '0');
-const std::string kRed = "00000001000000010000000100000001FFFF0000";
-
-std::string section(const std::string& tag, const std::string& bytes)
-{
-    return "<" + tag + "><![CDATA[" + bytes + "]]></" + tag + ">";
-}
+using CMessages = CClientDocument::CMessages;
 
 const std::string kNoPoints = section("Points", "\n0 \n");
 const std::string kNoPolygons = section("Polygons", "\n0 \n");
-
-std::string components(const std::string& wrappers)
-{
-    return "<InternalComponentDefinitions>" + wrappers + "</InternalComponentDefinitions>";
-}
-
-std::string wrapper(const std::string& id, const std::string& inside)
-{
-    return "<InternalComponentDefinition UUID=\"" + id + "\">" + inside +
-           "</InternalComponentDefinition>";
-}
-
-std::string level(int value)
-{
-    return "<Geometry.Level>" + std::to_string(value) + "</Geometry.Level>";
-}
 
 void setId(IZelBasic* object, const std::string& id)
 {
@@ -184,7 +166,7 @@ TEST(Save, TheSaveVersionIsKnownWhileTheSaveRuns)
             EXPECT_EQ(found, version != nullptr ? *version : usual);
         EXPECT_EQ(*document.more().getSaveVersion(), usual);
 
-        stream.fails = true; // also after a save that fails
+        stream.room = 0; // also after a save that fails
         EXPECT_FALSE(document->writeVersion(&stream, nullptr, version));
         EXPECT_EQ(*document.more().getSaveVersion(), usual);
     }
@@ -217,7 +199,7 @@ TEST(Save, WhatTheStreamThrowsFailsTheSave)
 {
     CClientDocument document;
     CMemoryWriteStream stream;
-    stream.fails = true;
+    stream.room = 0;
     EXPECT_FALSE(document->write(&stream, nullptr));
     EXPECT_THAT(document.takeMessages(), ElementsAre("Error \"disk full\" while writting"));
     EXPECT_FALSE(document->write(nullptr, nullptr));
@@ -229,7 +211,7 @@ TEST(Save, WhatTheStreamThrowsFailsTheSave)
     } odd;
     EXPECT_FALSE(document->write(&odd, nullptr));
     EXPECT_THAT(document.takeMessages(), ElementsAre("Unknownm exception while writting"));
-    stream.fails = false;
+    stream.room = std::string::npos;
     EXPECT_TRUE(document->write(&stream, nullptr));
 }
 
@@ -263,7 +245,7 @@ TEST(Save, ClientDataIsGoneAlsoAfterASaveThatFails)
     document->getApplicationData("Mine")->AddText("secret");
     EXPECT_THAT(document.save(), Not(HasSubstr("Application.Data")));
     CMemoryWriteStream stream;
-    stream.fails = true;
+    stream.room = 0;
     document->getApplicationData("Mine")->AddText("secret");
     EXPECT_FALSE(document->write(&stream, nullptr));
     EXPECT_EQ(document->getApplicationData("Mine")->GetFirstText(), nullptr);
@@ -441,8 +423,8 @@ TEST(Save, ComponentsTakeThePlaceOfTheDocumentsMesh)
     fill(addDefinition(document, kIdA), 3, 4);
     document->getDefinitions()->getZelObject(0)->setGeometryLevel(-2);
     addDefinition(document, kIdB);
-    const std::string wrappers =
-        wrapper(kIdA, level(-2) + meshOf(3, 4)) + wrapper(kIdB, level(0) + kNoPoints + kNoPolygons);
+    const std::string wrappers = component(kIdA, level(-2) + meshOf(3, 4)) +
+                                 component(kIdB, level(0) + kNoPoints + kNoPolygons);
     const std::string window = "<T/><Working.Window><Parallel.Views/></Working.Window>";
     EXPECT_EQ(sections(document), kNoPreview + "<I/><Images/>" + components(wrappers) + window);
     EXPECT_THAT(document.takeMessages(), IsEmpty());
@@ -465,17 +447,17 @@ TEST(Save, WrappersKeepWhatTheyHoldAndFollowTheirList)
     CClientDocument document;
     EXPECT_TRUE(document.read(zelFile(
         "<A/>" +
-        components("<!--c-->" + wrapper(kIdA, "<In.Front/>" + level(1) + meshOf(1, 2) + object) +
-                   wrapper(kIdB, level(2) + meshOf(3, 4) + "<Other/>") + "<Foreign/>") +
+        components("<!--c-->" + component(kIdA, "<In.Front/>" + level(1) + meshOf(1, 2) + object) +
+                   component(kIdB, level(2) + meshOf(3, 4) + "<Other/>") + "<Foreign/>") +
         "<B/>")));
     TZelObjectMgr<IZelZelObjectDefinition>* definitions = document->getDefinitions();
     definitions->moveObject(1, 0);
     fill(definitions->newZelObject(1), 5, 6);
     setId(definitions->getZelObject(1), kIdC);
     definitions->getZelObject(2)->setGeometryLevel(9);
-    const std::string a = wrapper(kIdA, "<In.Front/>" + level(9) + meshOf(1, 2) + object);
-    const std::string b = wrapper(kIdB, level(2) + meshOf(3, 4) + "<Other/>");
-    const std::string c = wrapper(kIdC, level(0) + meshOf(5, 6));
+    const std::string a = component(kIdA, "<In.Front/>" + level(9) + meshOf(1, 2) + object);
+    const std::string b = component(kIdB, level(2) + meshOf(3, 4) + "<Other/>");
+    const std::string c = component(kIdC, level(0) + meshOf(5, 6));
     EXPECT_EQ(sections(document), kNoPreview + "<I/><Images/><A/>" +
                                       components("<!--c--><Foreign/>" + b + c + a) +
                                       "<B/><T/><Working.Window/>");
@@ -483,16 +465,17 @@ TEST(Save, WrappersKeepWhatTheyHoldAndFollowTheirList)
     EXPECT_THAT(sections(document), HasSubstr(components("<!--c--><Foreign/>" + c + a)));
     // A definition with a new identifier gets a new wrapper.
     setId(definitions->getZelObject(1), kIdB);
-    EXPECT_THAT(sections(document), HasSubstr(components("<!--c--><Foreign/>" + c +
-                                                         wrapper(kIdB, level(9) + meshOf(1, 2)))));
+    EXPECT_THAT(
+        sections(document),
+        HasSubstr(components("<!--c--><Foreign/>" + c + component(kIdB, level(9) + meshOf(1, 2)))));
     EXPECT_THAT(document.takeMessages(), IsEmpty());
 }
 
 TEST(Save, WrappersOfASecondSectionMoveToTheFirst)
 {
     CClientDocument document;
-    const std::string a = wrapper(kIdA, level(0) + meshOf(1, 2) + "<X/>");
-    const std::string b = wrapper(kIdB, level(0) + meshOf(3, 4) + "<Y/>");
+    const std::string a = component(kIdA, level(0) + meshOf(1, 2) + "<X/>");
+    const std::string b = component(kIdB, level(0) + meshOf(3, 4) + "<Y/>");
     EXPECT_TRUE(document.read(zelFile(components(a) + "<A/>" + components(b))));
     EXPECT_THAT(sections(document), HasSubstr(components(a + b) + "<A/><T/><Working.Window/>"));
 }
@@ -581,8 +564,8 @@ TEST(SaveStorage, ComponentsAreAskedForByIdentifier)
     EXPECT_TRUE(document.write(&storage));
     EXPECT_THAT(storage.calls, ElementsAre("writer " + kIdA, "writer " + kIdA, "writer " + kIdB,
                                            "writer " + kIdB));
-    EXPECT_THAT(flat(document.written), HasSubstr(components(wrapper(kIdA, level(0) + kStored) +
-                                                             wrapper(kIdB, level(0) + kStored))));
+    EXPECT_THAT(flat(document.written), HasSubstr(components(component(kIdA, level(0) + kStored) +
+                                                             component(kIdB, level(0) + kStored))));
 }
 
 TEST(SaveStorage, FaultsOfTheClientFailTheSaveAndTheRestIsWritten)
@@ -633,7 +616,7 @@ TEST(SaveStorage, TheWriterIsBackAlsoWhenTheStreamFails)
     CClientStorage given, set;
     document->setExtStorageWriter(&set);
     CMemoryWriteStream stream;
-    stream.fails = true;
+    stream.room = 0;
     EXPECT_FALSE(document->write(&stream, &given));
     EXPECT_EQ(document->setExtStorageWriter(nullptr), &set);
 }

@@ -1,43 +1,17 @@
 #include "xml/CHexWriter.h"
 
 #include "core/OvThrow.h"
-
-#include <array>
-#include <cstring>
+#include "xml/hexWord.h"
 
 namespace OvZel {
-
-namespace {
-
-constexpr std::array<char, 512> makePairs()
-{
-    std::array<char, 512> pairs{};
-    for (std::size_t i = 0; i < 256; ++i) {
-        pairs[2 * i] = "0123456789ABCDEF"[i >> 4];
-        pairs[2 * i + 1] = "0123456789ABCDEF"[i & 15];
-    }
-    return pairs;
-}
-
-/// The two digits of each byte.
-constexpr std::array<char, 512> kPairs = makePairs();
-
-} // namespace
-
-void CHexWriter::put(std::uint8_t byte)
-{
-    std::memcpy(mDigits + mEnd, &kPairs[std::size_t{byte} * 2], 2);
-    mEnd += 2;
-}
 
 void CHexWriter::write(std::uint8_t b0, std::uint8_t b1, std::uint8_t b2, std::uint8_t b3)
 {
     if (mEnd == kNbDigits)
         flush();
-    put(b0);
-    put(b1);
-    put(b2);
-    put(b3);
+    const std::uint8_t bytes[] = {b0, b1, b2, b3};
+    encodeHexWord(bytes, mDigits + mEnd);
+    mEnd += kDigitsPerWord;
 }
 
 void CHexWriter::write(std::uint32_t word)

@@ -23,9 +23,8 @@ public:
     void flush();
 
 private:
+    static constexpr std::size_t kDigitsPerWord = 8;
     static constexpr std::size_t kNbDigits = 2048;
-
-    void put(std::uint8_t byte);
 
     OrvaneXML::XIXMLWriteStream& mStream;
     std::size_t mEnd = 0;

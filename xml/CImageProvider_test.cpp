@@ -7,6 +7,9 @@
 #include <gtest/gtest.h>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
+using ZelTest::CTestElement;
+using ZelTest::CXMLTextTarget;
 
 namespace {
 
@@ -28,7 +31,7 @@ TEST(ImageProvider, WritesTheBitmapOfTheTimeOfTheSave)
 TEST(ImageProvider, SucceedsWithoutAnImage)
 {
     CTestBlockHost host;
-    CTextWriteStream stream;
+    CXMLTextTarget stream;
     CImageProvider provider(&host, nullptr);
     EXPECT_TRUE(provider.Write(&stream, nullptr, nullptr));
     EXPECT_EQ(stream.text, "");
@@ -41,7 +44,7 @@ TEST(ImageProvider, SendsTheTextOfAFailedWrite)
     const TZelComPtr<IZelImage> image(new CZelImage(nullptr));
     image->setImage(1, 1, kPixel);
     CImageProvider provider(&host, image.get());
-    CTextWriteStream full(10);
+    CXMLTextTarget full(10);
     EXPECT_FALSE(provider.Write(&full, nullptr, nullptr));
     EXPECT_EQ(host.messages, std::vector<std::string>{"XCXMLImage::WriteHex - Write stream error"});
 }

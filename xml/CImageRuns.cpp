@@ -3,7 +3,9 @@
 #include "core/OvThrow.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
+#include <new>
 
 namespace OvZel {
 
@@ -65,37 +67,52 @@ std::uint32_t CImageRuns::readCount(std::size_t nbLeft)
     const std::uint32_t count = readNumber();
     if (count > nbLeft)
         OvThrow::Signal("XCXMLImage::Read - Wrong data");
-    mWords.push_back(count);
+    *append(1) = count;
     return count;
 }
 
 void CImageRuns::readPixels(std::size_t nb)
 {
     while (nb > 0) {
-        std::uint8_t bytes[kWordsAtATime * 4];
-        std::uint32_t words[kWordsAtATime];
         const std::size_t nbNow = std::min(nb, kWordsAtATime);
-        mReader.read(bytes, nbNow);
-        std::memcpy(words, bytes, nbNow * 4);
-        mWords.insert(mWords.end(), words, words + nbNow);
+        mReader.read(reinterpret_cast<std::uint8_t*>(append(nbNow)), nbNow);
         nb -= nbNow;
     }
 }
 
+/// Room for further words, which count as there.
+std::uint32_t* CImageRuns::append(std::size_t nb)
+{
+    if (mRoom - mNbWords < nb) {
+        const std::size_t room = std::max(mRoom * 2, kWordsAtATime * 4);
+        void* larger = std::realloc(mWords.get(), room * sizeof(std::uint32_t));
+        if (larger == nullptr)
+            throw std::bad_alloc();
+        static_cast<void>(mWords.release());
+        mWords.reset(static_cast<std::uint32_t*>(larger));
+        mRoom = room;
+    }
+    mNbWords += nb;
+    return mWords.get() + mNbWords - nb;
+}
+
 CImageRuns::CPixel CImageRuns::pixel(std::uint32_t word) const
 {
-    std::uint8_t stored[4];
-    std::memcpy(stored, &word, 4);
     // The little-endian files that exist have nothing of use behind the first byte of a pixel.
-    if (mLittleEndian)
-        return {stored[0], 0, 0, 0};
-    return {stored[1], stored[2], stored[3], stored[0]};
+    if (mLittleEndian) {
+        std::uint8_t first;
+        std::memcpy(&first, &word, 1);
+        return {first, 0, 0, 0};
+    }
+    // Alpha moves from the first byte to the last.
+    constexpr int kOneByte = std::endian::native == std::endian::little ? 8 : -8;
+    return std::bit_cast<CPixel>(std::rotr(word, kOneByte));
 }
 
 void CImageRuns::expand(CPixel* out) const
 {
     CPixel* const end = out + mNbPixels;
-    const std::uint32_t* word = mWords.data();
+    const std::uint32_t* word = mWords.get();
     while (out != end) {
         const std::uint32_t nbRepeats = *word++;
         out = std::fill_n(out, nbRepeats, pixel(*word++));

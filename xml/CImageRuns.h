@@ -5,7 +5,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <cstdlib>
+#include <memory>
 
 namespace OvZel {
 
@@ -39,9 +40,14 @@ private:
     std::uint32_t mWidth = 0;
     std::uint32_t mHeight = 0;
     std::size_t mNbPixels = 0;
+    std::uint32_t* append(std::size_t nb);
+
     // A run's count and pixel, then the count and the pixels of the literal stretch behind it, and
     // so on. Counts are numbers, pixels the four bytes of the stream.
-    std::vector<std::uint32_t> mWords;
+    // A plain block, since enlarging one this large moves no page of it.
+    std::unique_ptr<std::uint32_t[], void (*)(void*)> mWords{nullptr, std::free};
+    std::size_t mNbWords = 0;
+    std::size_t mRoom = 0;
 };
 
 } // namespace OvZel

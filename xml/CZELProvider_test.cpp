@@ -11,6 +11,9 @@
 #include <stdexcept>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
+using ZelTest::CTestElement;
+using ZelTest::messageOf;
 using ZelTest::slotOf;
 
 namespace {

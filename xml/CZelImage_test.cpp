@@ -1,8 +1,8 @@
 #include "xml/CZelImage.h"
 
 #include "core/TComObjectMgr.h"
-#include "tests/support/CStepReadStream.h"
 #include "tests/support/CTestBlockHost.h"
+#include "tests/support/CXMLTextSource.h"
 #include "tests/support/messageOf.h"
 #include "tests/support/vtable.h"
 
@@ -11,6 +11,9 @@
 #include <vector>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
+using ZelTest::CXMLTextSource;
+using ZelTest::messageOf;
 using ZelTest::slotOf;
 
 namespace {
@@ -150,18 +153,18 @@ TEST(ZelImage, HasNoXMLFormOfItsOwn)
 TEST(ZelImage, ReadsABitmapOrKeepsTheOldOne)
 {
     const TZelComPtr<CZelImage> image(new CZelImage(nullptr));
-    CStepReadStream good("000000010000000100000001"
-                         "00000001"
-                         "44112233");
+    CXMLTextSource good("000000010000000100000001"
+                        "00000001"
+                        "44112233");
     image->readImage(good);
     EXPECT_EQ(CBitmap(*image).pixels[3], 0x44);
 
-    CStepReadStream empty("");
+    CXMLTextSource empty("");
     EXPECT_EQ(messageOf([&] { image->readImage(empty); }),
               "XCXMLImage::ReadHex - Read stream error");
     EXPECT_EQ(CBitmap(*image).width, 1U);
 
-    CStepReadStream noArea("000000010000000000000001");
+    CXMLTextSource noArea("000000010000000000000001");
     image->readImage(noArea);
     expectNoBitmap(*image);
 }

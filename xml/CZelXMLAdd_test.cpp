@@ -18,6 +18,8 @@
 using namespace OvZel;
 using OrvaneXML::XCXMLKey;
 using OrvaneXML::XIXMLElement;
+using ZelTest::CTestElement;
+using ZelTest::messageOf;
 
 namespace {
 

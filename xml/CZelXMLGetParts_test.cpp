@@ -8,14 +8,18 @@
 #include "tests/support/CTestBlockHost.h"
 #include "tests/support/CTestElement.h"
 #include "tests/support/messageOf.h"
+#include "tests/support/textOf.h"
 #include "xml/CZelXMLAdd.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <vector>
 
 using namespace OvZel;
+using ZelTest::CTestBlockHost;
+using ZelTest::CTestElement;
+using ZelTest::messageOf;
+using ZelTest::textOf;
 
 namespace {
 
@@ -60,11 +64,8 @@ std::vector<float> values(const CTable& table)
 std::vector<std::string> texts(CIdList& list)
 {
     std::vector<std::string> all;
-    for (std::int32_t i = 0; i < list.getNbObjects(); ++i) {
-        char text[33];
-        list.getZelObject(i)->toText(text);
-        all.emplace_back(text);
-    }
+    for (std::int32_t i = 0; i < list.getNbObjects(); ++i)
+        all.push_back(textOf(*list.getZelObject(i)));
     return all;
 }
 

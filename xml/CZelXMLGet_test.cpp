@@ -11,6 +11,8 @@
 #include <functional>
 
 using namespace OvZel;
+using ZelTest::CTestElement;
+using ZelTest::messageOf;
 
 namespace {
 

@@ -19,6 +19,9 @@
 
 using namespace OvZel;
 using OrvaneXML::XIXMLElement;
+using ZelTest::CTestBlockHost;
+using ZelTest::CTestElement;
+using ZelTest::messageOf;
 using ZelTest::slotOf;
 
 namespace {

@@ -1,7 +1,7 @@
 #include "xml/XCXMLImage.h"
 
-#include "tests/support/CStepReadStream.h"
-#include "tests/support/CTextWriteStream.h"
+#include "tests/support/CXMLTextSource.h"
+#include "tests/support/CXMLTextTarget.h"
 #include "tests/support/messageOf.h"
 #include "xml/trn_autoptr.h"
 
@@ -13,6 +13,9 @@
 #include <vector>
 
 using namespace OvZel;
+using ZelTest::CXMLTextSource;
+using ZelTest::CXMLTextTarget;
+using ZelTest::messageOf;
 
 namespace {
 
@@ -30,14 +33,14 @@ constexpr CPixel kC{0x99, 0xAA, 0xBB, 0xCC};
 
 std::string written(std::uint32_t width, std::uint32_t height, std::vector<CPixel> pixels)
 {
-    CTextWriteStream stream;
+    CXMLTextTarget stream;
     XCXMLImage(width, height, reinterpret_cast<std::uint8_t*>(pixels.data())).WriteImage(stream);
     return stream.text;
 }
 
-void read(XCXMLImage& image, const std::string& text, std::size_t step = CStepReadStream::kWhole)
+void read(XCXMLImage& image, const std::string& text, std::size_t step = CXMLTextSource::kWhole)
 {
-    CStepReadStream stream(text, step);
+    CXMLTextSource stream(text, step);
     image.ReadImage(stream);
 }
 
@@ -238,7 +241,7 @@ TEST(XCXMLImage, ABadPictureLeavesTheOldOne)
          tooShort},
     };
     for (const auto& test : cases) {
-        for (const std::size_t step : {std::size_t{1}, CStepReadStream::kWhole}) {
+        for (const std::size_t step : {std::size_t{1}, CXMLTextSource::kWhole}) {
             XCXMLImage image;
             read(image, "000000010000000100000001"
                         "00000001" C_);
@@ -271,7 +274,7 @@ TEST(XCXMLImage, RandomPicturesComeBack)
         const std::vector<CPixel> pixels = randomPixels(random, width * height);
         const std::string text = written(width, height, pixels);
         XCXMLImage image;
-        read(image, text, i % 2 == 0 ? CStepReadStream::kWhole : 1 + random() % 3000);
+        read(image, text, i % 2 == 0 ? CXMLTextSource::kWhole : 1 + random() % 3000);
         ASSERT_EQ(pixelsOf(image), pixels) << width << " x " << height;
         ASSERT_EQ(written(width, height, pixelsOf(image)), text);
     }
@@ -280,12 +283,12 @@ TEST(XCXMLImage, RandomPicturesComeBack)
 namespace {
 
 /// Remembers the largest piece that it was given.
-class CPieceStream : public CTextWriteStream {
+class CPieceStream : public CXMLTextTarget {
 public:
     std::uint32_t Write(const void* buffer, std::uint32_t size) override
     {
         largest = std::max(largest, size);
-        return CTextWriteStream::Write(buffer, size);
+        return CXMLTextTarget::Write(buffer, size);
     }
     std::uint32_t largest = 0;
 };
@@ -306,12 +309,12 @@ TEST(XCXMLImage, AWriteStreamThatTakesLessIsAFailure)
 {
     std::vector<CPixel> pixels{kA, kB, kC};
     XCXMLImage image(3, 1, reinterpret_cast<std::uint8_t*>(pixels.data()));
-    CTextWriteStream full(63); // of 64 characters
+    CXMLTextTarget full(63); // of 64 characters
     EXPECT_EQ(messageOf([&] { image.WriteImage(full); }),
               "XCXMLImage::WriteHex - Write stream error");
-    CTextWriteStream fullAgain(63);
+    CXMLTextTarget fullAgain(63);
     EXPECT_FALSE(image.Write(&fullAgain, nullptr, nullptr));
-    CTextWriteStream exact(64);
+    CXMLTextTarget exact(64);
     EXPECT_TRUE(image.Write(&exact, nullptr, nullptr));
     EXPECT_FALSE(image.Write(nullptr, nullptr, nullptr));
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 using namespace OvZel;
+using ZelTest::messageOf;
 
 namespace {
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tests/support/textOf.h"
+
 #include <zel/IZelExtStorageReader.h>
 #include <zel/IZelExtStorageWriter.h>
 #include <zel/IZelPolygon.h>
@@ -39,13 +41,6 @@ public:
     OvZel::CZelPoint point{1, 2, 3};
 
 private:
-    static std::string textOf(const OvZel::CZelUUID& id)
-    {
-        char text[33];
-        id.toText(text);
-        return text;
-    }
-
     void note(const std::string& call) { calls.push_back(call); }
 
     template <class Made, class Result>

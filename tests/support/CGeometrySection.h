@@ -1,11 +1,12 @@
 #pragma once
 
-#include "tests/support/COwnStorage.h"
 #include "tests/support/CTestBlockHost.h"
-#include "tests/support/CTextWriteStream.h"
+#include "tests/support/CXMLTextTarget.h"
 #include "xml/tree/XCXMLTree.h"
 
 #include <string>
+
+namespace ZelTest {
 
 /// An element with a geometry section below an element that may have an identifier, and what the
 /// section's provider writes.
@@ -40,7 +41,9 @@ private:
         return parent->AddElement(parent->MakeKey(name));
     }
 
-    CTextWriteStream mStream;
+    CXMLTextTarget mStream;
     CProvider* mProvider;
     OrvaneXML::XIXMLData* mNode;
 };
+
+} // namespace ZelTest

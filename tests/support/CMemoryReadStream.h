@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -13,6 +14,14 @@ namespace ZelTest {
 class CMemoryReadStream : public OvZel::IZelReadStream {
 public:
     static constexpr std::size_t kWhole = std::string::npos;
+    /// Stands in for a read.
+    using CFailure = std::function<std::uint32_t(void* buffer, std::uint32_t size)>;
+
+    static std::uint32_t throwText(void*, std::uint32_t)
+    {
+        throw std::runtime_error("stream broke");
+    }
+    static std::uint32_t throwInt(void*, std::uint32_t) { throw 1; }
 
     explicit CMemoryReadStream(std::string content, std::size_t most = kWhole)
         : text(std::move(content)), step(most)
@@ -22,7 +31,7 @@ public:
     std::uint32_t read(void* buffer, std::uint32_t size) override
     {
         if (position >= failsAt)
-            throw std::runtime_error("stream broke");
+            return failure(buffer, size);
         const std::size_t count = std::min({std::size_t{size}, step, text.size() - position});
         std::memcpy(buffer, text.data() + position, count);
         position += count;
@@ -35,7 +44,8 @@ public:
     std::string text;
     std::size_t position = 0;
     std::size_t step;                        ///< at most so many bytes at once
-    std::size_t failsAt = std::string::npos; ///< throws from this position on
+    std::size_t failsAt = std::string::npos; ///< fails from this position on
+    CFailure failure = throwText;
 };
 
 } // namespace ZelTest

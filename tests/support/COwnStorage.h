@@ -3,6 +3,8 @@
 #include "geometry/CZELGeoWriter.h"
 #include "xml/IBlockHost.h"
 
+namespace ZelTest {
+
 /// Supplies a mesh as a document does.
 class COwnStorage : public OvZel::IZelExtStorageWriter {
 public:
@@ -22,3 +24,5 @@ private:
     OvZel::CZELGeoWriter::CPoints& mPoints;
     OvZel::CZELGeoWriter::CPolygons& mPolygons;
 };
+
+} // namespace ZelTest

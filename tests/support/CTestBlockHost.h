@@ -12,6 +12,8 @@
 #include <utility>
 #include <vector>
 
+namespace ZelTest {
+
 /// Stands in for a document: gathers its messages and progress, and can cancel.
 class CTestBlockHost : public OvZel::IBlockHost, private OvZel::IZelFeedback {
 public:
@@ -59,3 +61,5 @@ private:
     OvZel::TSharedPtr<int>* mBlock;
     OvZel::TZelComPtr<OvZel::CZelMgrRef> mRef;
 };
+
+} // namespace ZelTest

@@ -1,37 +1,28 @@
 #pragma once
 
-#include "xml/tree/CXMLTreeReader.h"
-#include "xml/tree/XCXMLTree.h"
+#include "tests/support/xmlTree.h"
 
-#include "tests/support/CStepReadStream.h"
-#include "tests/support/CTextWriteStream.h"
-
-#include <memory>
 #include <string>
+
+namespace ZelTest {
 
 /// A tree for one test, with a document element.
 class CTestElement {
 public:
-    explicit CTestElement(const std::string& xml = "<E/>")
-    {
-        CStepReadStream stream(xml);
-        mTree.reset(OrvaneXML::CXMLTreeReader(nullptr).ReadTree(&stream));
-    }
+    explicit CTestElement(const std::string& xml = "<E/>") : mTree(readTree(xml)) {}
 
     OrvaneXML::XIXMLElement* element() const { return mTree->GetRoot()->GetFirstElement(); }
 
     /// The tree as it is written, without line ends and tabs.
     std::string text() const
     {
-        CTextWriteStream stream;
-        mTree->Write(&stream);
-        std::string plain;
-        for (const char c : stream.text)
-            if (c != '\n' && c != '\t')
-                plain += c;
+        std::string plain = written(*mTree);
+        std::erase_if(plain, [](char c) { return c == '\n' || c == '\t'; });
         return plain;
     }
 
 private:
-    std::unique_ptr<OrvaneXML::XCXMLTree> mTree;
+    CTreePtr mTree;
 };
+
+} // namespace ZelTest

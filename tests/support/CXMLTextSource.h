@@ -6,12 +6,14 @@
 #include <cstring>
 #include <string>
 
-/// Delivers a text in steps of at most so many bytes.
-class CStepReadStream : public OrvaneXML::XIXMLReadStream {
+namespace ZelTest {
+
+/// Delivers a text to the XML layer, in steps of at most so many bytes.
+class CXMLTextSource : public OrvaneXML::XIXMLReadStream {
 public:
     static constexpr std::size_t kWhole = 1'000'000'000;
 
-    explicit CStepReadStream(std::string text, std::size_t step = kWhole)
+    explicit CXMLTextSource(std::string text, std::size_t step = kWhole)
         : mText(std::move(text)), mStep(step)
     {
     }
@@ -30,3 +32,5 @@ private:
     std::size_t mStep;
     std::size_t mPosition = 0;
 };
+
+} // namespace ZelTest

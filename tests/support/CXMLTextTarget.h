@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <string>
 
-/// Gathers what is written. A limit makes it take no byte beyond it.
-class CTextWriteStream : public OrvaneXML::XIXMLWriteStream {
+namespace ZelTest {
+
+/// Gathers what the XML layer writes. A limit makes it take no byte beyond it.
+class CXMLTextTarget : public OrvaneXML::XIXMLWriteStream {
 public:
-    explicit CTextWriteStream(std::size_t limit = std::string::npos) : mLimit(limit) {}
+    explicit CXMLTextTarget(std::size_t limit = std::string::npos) : mLimit(limit) {}
 
     std::uint32_t Write(const void* buffer, std::uint32_t size) override
     {
@@ -22,3 +24,5 @@ public:
 private:
     std::size_t mLimit;
 };
+
+} // namespace ZelTest

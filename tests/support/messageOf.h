@@ -3,6 +3,8 @@
 #include <exception>
 #include <string>
 
+namespace ZelTest {
+
 /// The text of the standard exception that the action raises, "no exception" if it raises none.
 template <class Action>
 std::string messageOf(Action&& action)
@@ -14,3 +16,5 @@ std::string messageOf(Action&& action)
     }
     return "no exception";
 }
+
+} // namespace ZelTest

@@ -1,38 +1,35 @@
 #pragma once
 
-#include "tests/support/CStepReadStream.h"
-#include "tests/support/CTextWriteStream.h"
-#include "tests/support/messageOf.h"
-#include "tests/support/vtable.h"
+#include "tests/support/CXMLTextSource.h"
+#include "tests/support/CXMLTextTarget.h"
 #include "xml/tree/CXMLTreeReader.h"
+#include "xml/tree/XCXMLTree.h"
 
 #include <cstdint>
 #include <memory>
 #include <string>
 
-/// What the tests of the XML tree share.
-namespace OrvaneXML::test {
+/// Trees of the XML layer from a text and back to one.
+namespace ZelTest {
 
-using ZelTest::callSlot;
+using CTreePtr = std::unique_ptr<OrvaneXML::XCXMLTree>;
 
-using CTreePtr = std::unique_ptr<XCXMLTree>;
-
-inline CTreePtr readTree(std::string text, std::size_t step = CStepReadStream::kWhole,
-                         IXMLCDataReader* reader = nullptr)
+inline CTreePtr readTree(std::string text, std::size_t step = CXMLTextSource::kWhole,
+                         OrvaneXML::IXMLCDataReader* reader = nullptr)
 {
-    CStepReadStream source(std::move(text), step);
-    return CTreePtr(CXMLTreeReader(reader).ReadTree(&source));
+    CXMLTextSource source(std::move(text), step);
+    return CTreePtr(OrvaneXML::CXMLTreeReader(reader).ReadTree(&source));
 }
 
-inline std::string written(const XCXMLTree& tree)
+inline std::string written(const OrvaneXML::XCXMLTree& tree)
 {
-    CTextWriteStream sink;
-    tree.Write(&sink);
-    return sink.text;
+    CXMLTextTarget target;
+    tree.Write(&target);
+    return target.text;
 }
 
 /// A provider of fixed bytes that counts how many of its kind are alive.
-class CBytes final : public XIXMLData::IXMLCData {
+class CBytes final : public OrvaneXML::XIXMLData::IXMLCData {
 public:
     explicit CBytes(std::string bytes, bool result = true)
         : mBytes(std::move(bytes)), mResult(result)
@@ -40,7 +37,7 @@ public:
         ++nbAlive;
     }
     ~CBytes() override { --nbAlive; }
-    bool Write(XIXMLWriteStream* stream, void*, XIXMLData*) override
+    bool Write(OrvaneXML::XIXMLWriteStream* stream, void*, OrvaneXML::XIXMLData*) override
     {
         stream->Write(mBytes.data(), static_cast<std::uint32_t>(mBytes.size()));
         return mResult;
@@ -54,4 +51,4 @@ private:
     bool mResult;
 };
 
-} // namespace OrvaneXML::test
+} // namespace ZelTest

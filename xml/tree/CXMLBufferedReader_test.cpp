@@ -6,13 +6,15 @@
 
 namespace OrvaneXML {
 
+using ZelTest::CXMLTextSource;
+
 TEST(XmlBufferedReader, GivesAllBytesAndTakesOneBackAnywhere)
 {
     std::string text(70'000, ' ');
     for (std::size_t i = 0; i < text.size(); ++i)
         text[i] = static_cast<char>(i * 7);
     for (std::size_t most : {std::size_t{1}, std::size_t{7}, std::size_t{100'000}}) {
-        CStepReadStream source(text, most);
+        CXMLTextSource source(text, most);
         CXMLBufferedReader reader(&source);
         for (char c : text) {
             ASSERT_EQ(reader.ReadChar(), static_cast<unsigned char>(c));
@@ -27,7 +29,7 @@ TEST(XmlBufferedReader, GivesAllBytesAndTakesOneBackAnywhere)
 
 TEST(XmlBufferedReader, TakesBackAcrossARefill)
 {
-    CStepReadStream source("abcdef", 3);
+    CXMLTextSource source("abcdef", 3);
     CXMLBufferedReader reader(&source);
     for (int i = 0; i < 3; ++i)
         reader.ReadChar();
@@ -39,7 +41,7 @@ TEST(XmlBufferedReader, TakesBackAcrossARefill)
 
 TEST(XmlBufferedReader, StretchesKeepWhatIsUnread)
 {
-    CStepReadStream source("abcdef", 4);
+    CXMLTextSource source("abcdef", 4);
     CXMLBufferedReader reader(&source);
     EXPECT_EQ(reader.Begin(), reader.End());
     ASSERT_TRUE(reader.Refill());
@@ -56,7 +58,7 @@ TEST(XmlBufferedReader, StretchesKeepWhatIsUnread)
 
 TEST(XmlBufferedReader, AFullWindowDoesNotGrow)
 {
-    CStepReadStream source(std::string(200'000, 'x'));
+    CXMLTextSource source(std::string(200'000, 'x'));
     CXMLBufferedReader reader(&source);
     ASSERT_TRUE(reader.Refill());
     EXPECT_FALSE(reader.Refill());

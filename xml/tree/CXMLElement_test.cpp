@@ -1,5 +1,6 @@
 #include "xml/tree/CXMLElement.h"
 
+#include "tests/support/vtable.h"
 #include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
@@ -8,7 +9,7 @@
 
 namespace OrvaneXML {
 
-using namespace test;
+using namespace ZelTest;
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "xml/tree/CXMLNames.h"
 
 #include "xml/tree/CXMLStore.h"
+#include "xml/tree/characters.h"
 
 #include <algorithm>
-#include <cstring>
 #include <new>
 #include <stdexcept>
 

@@ -53,12 +53,4 @@ private:
     std::size_t mNbNames = 0;
 };
 
-/// Whether a character ends or spoils a name: white space, control characters, quotes, "=", "/",
-/// "<" and ">".
-constexpr bool isNameEnd(char c)
-{
-    const auto u = static_cast<unsigned char>(c);
-    return u <= ' ' || c == '"' || c == '\'' || c == '=' || c == '/' || c == '<' || c == '>';
-}
-
 } // namespace OrvaneXML

@@ -1,12 +1,14 @@
 #include "xml/tree/CXMLParser.h"
 
+#include "tests/support/messageOf.h"
+#include "tests/support/vtable.h"
 #include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
 namespace OrvaneXML {
 
-using namespace test;
+using namespace ZelTest;
 
 namespace {
 
@@ -60,7 +62,7 @@ const char* const kDocument = "<?xml version='1.0'?>\n<a x='1' y='&lt;'>\n <b/> 
 TEST(XmlParser, TellsEventsInOrder)
 {
     CLog log;
-    CStepReadStream source(kDocument);
+    CXMLTextSource source(kDocument);
     EXPECT_TRUE(log.Parse(&source));
     EXPECT_EQ(log.log,
               "start;?xml|version='1.0';<a;@x=1;@y=<;<b;>2;' t&u ;!c;<c;[data;>3;>1;?end|;");
@@ -69,7 +71,7 @@ TEST(XmlParser, TellsEventsInOrder)
 TEST(XmlParser, FastParseSkipsSections)
 {
     CLog log;
-    CStepReadStream source(kDocument);
+    CXMLTextSource source(kDocument);
     EXPECT_TRUE(log.FastParse(&source));
     EXPECT_EQ(log.log, "start;?xml|version='1.0';<a;@x=1;@y=<;<b;>2;' t&u ;!c;<c;>3;>1;?end|;");
 }
@@ -78,7 +80,7 @@ TEST(XmlParser, GoesOnBehindWhatTheHookLeft)
 {
     CLog log;
     log.nbToRead = 2;
-    CStepReadStream source("<a><![CDATA[data]]><b/></a>");
+    CXMLTextSource source("<a><![CDATA[data]]><b/></a>");
     EXPECT_TRUE(log.Parse(&source));
     EXPECT_EQ(log.log, "start;<a;[da;<b;>2;>1;");
 }
@@ -87,7 +89,7 @@ TEST(XmlParser, AnInstructionCanStop)
 {
     CLog log;
     log.stopAt = "stop";
-    CStepReadStream source("<?go?><?stop now?><broken");
+    CXMLTextSource source("<?go?><?stop now?><broken");
     EXPECT_FALSE(log.Parse(&source));
     EXPECT_EQ(log.log, "start;?go|;?stop|now;");
 }
@@ -96,7 +98,7 @@ TEST(XmlParser, WhatAHookThrowsPassesThrough)
 {
     CLog log;
     log.throwAt = "b";
-    CStepReadStream source("<a><b><broken");
+    CXMLTextSource source("<a><b><broken");
     EXPECT_EQ(messageOf([&] { log.Parse(&source); }), "done");
     EXPECT_EQ(log.log, "start;<a;");
 }
@@ -104,7 +106,7 @@ TEST(XmlParser, WhatAHookThrowsPassesThrough)
 TEST(XmlParser, SyntaxErrorsCarryTheLine)
 {
     CLog log;
-    CStepReadStream source("<a>\n\n</b>");
+    CXMLTextSource source("<a>\n\n</b>");
     EXPECT_EQ(messageOf([&] { log.Parse(&source); }),
               "XML syntax error in line 3: end tag does not match");
 }
@@ -118,7 +120,7 @@ TEST(XmlParser, SlotsStandInTheirOrder)
     void* token = callSlot<void*>(log, 5, "e");
     callSlot<void>(log, 6, "n", "v");
     callSlot<void>(log, 7, "text");
-    CStepReadStream source("cdata");
+    CXMLTextSource source("cdata");
     callSlot<void>(log, 8, static_cast<XIXMLReadStream*>(&source));
     callSlot<void>(log, 9, token);
     EXPECT_FALSE(callSlot<bool>(log, 10));

@@ -1,24 +1,19 @@
 #include "xml/tree/CXMLScanner.h"
 
-#include "xml/tree/CXMLNames.h"
+#include "xml/tree/characters.h"
+#include "xml/tree/decodeText.h"
+#include "xml/tree/skipDoctype.h"
 
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <limits>
-#include <stdexcept>
 
 namespace OrvaneXML {
 
 namespace {
 
-constexpr std::size_t kWindow = 64 * 1024;
 constexpr std::size_t kMaxDepth = 10'000;
-
-bool isWhite(char c)
-{
-    return c == ' ' || c == '\n' || c == '\t' || c == '\r';
-}
 
 enum : unsigned char { kEndsName = 1, kEndsText = 2, kEndsValue = 4 };
 
@@ -42,189 +37,7 @@ bool is(char c, unsigned char what)
     return kClasses[static_cast<unsigned char>(c)] & what;
 }
 
-std::size_t countLines(const char* begin, const char* end)
-{
-    return static_cast<std::size_t>(std::count(begin, end, '\n'));
-}
-
-char* putUtf8(char* out, unsigned code)
-{
-    const auto put = [&](unsigned byte) { *out++ = static_cast<char>(byte); };
-    if (code < 0x80) {
-        put(code);
-    } else if (code < 0x800) {
-        put(0xC0 | code >> 6);
-        put(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        put(0xE0 | code >> 12);
-        put(0x80 | (code >> 6 & 0x3F));
-        put(0x80 | (code & 0x3F));
-    } else {
-        put(0xF0 | code >> 18);
-        put(0x80 | (code >> 12 & 0x3F));
-        put(0x80 | (code >> 6 & 0x3F));
-        put(0x80 | (code & 0x3F));
-    }
-    return out;
-}
-
-int digitOf(char c, unsigned base)
-{
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    const char lower = static_cast<char>(c | 0x20);
-    return base == 16 && lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
-}
-
-/// The code point of "#123" or "#x7B"; 0 if it is none that a text can hold.
-unsigned numericCode(std::string_view name)
-{
-    const bool isHex = name.size() > 1 && name[1] == 'x';
-    const std::string_view digits = name.substr(isHex ? 2 : 1);
-    const unsigned base = isHex ? 16 : 10;
-    unsigned code = 0;
-    for (char c : digits) {
-        const int digit = digitOf(c, base);
-        if (digit < 0)
-            return 0;
-        code = code * base + static_cast<unsigned>(digit);
-        if (code > 0x10FFFF)
-            return 0;
-    }
-    return code >= 0xD800 && code <= 0xDFFF ? 0 : code;
-}
-
-/// The code point of a reference, without "&" and ";"; 0 if it is unknown.
-unsigned referenceCode(std::string_view name)
-{
-    if (!name.empty() && name[0] == '#')
-        return numericCode(name);
-    constexpr struct {
-        std::string_view name;
-        char c;
-    } kEntities[] = {{"amp", '&'}, {"lt", '<'}, {"gt", '>'}, {"quot", '"'}, {"apos", '\''}};
-    for (const auto& entity : kEntities)
-        if (entity.name == name)
-            return static_cast<unsigned char>(entity.c);
-    return 0;
-}
-
 } // namespace
-
-// ---- the window
-
-CXMLScanner::CXMLScanner(XIXMLReadStream& stream)
-    : mStream(stream), mBuffer(std::make_unique_for_overwrite<char[]>(kWindow + 1)),
-      mCapacity(kWindow)
-{
-    mBuffer[0] = 0;
-}
-
-void CXMLScanner::MakeRoom()
-{
-    if (mEnd < mCapacity && mCapacity - mEnd >= mCapacity / 4)
-        return;
-    const std::size_t nb = mEnd - mTokenBegin;
-    if (nb > mCapacity / 2) {
-        auto wider = std::make_unique_for_overwrite<char[]>(mCapacity * 2 + 1);
-        std::memcpy(wider.get(), mBuffer.get() + mTokenBegin, nb);
-        mBuffer = std::move(wider);
-        mCapacity *= 2;
-    } else {
-        std::memmove(mBuffer.get(), mBuffer.get() + mTokenBegin, nb);
-    }
-    mPosition -= mTokenBegin;
-    mEnd = nb;
-    mTokenBegin = 0;
-}
-
-/// Adds bytes to the window. Places in it change; offsets from the token's beginning do not.
-bool CXMLScanner::More()
-{
-    if (mIsAtEnd)
-        return false;
-    MakeRoom();
-    const std::size_t room = std::min<std::size_t>(mCapacity - mEnd, 1 << 30);
-    const std::size_t nb = mStream.Read(mBuffer.get() + mEnd, static_cast<std::uint32_t>(room));
-    if (nb > room)
-        throw std::runtime_error("The stream of an XML document delivered more than was asked for");
-    mEnd += nb;
-    mBuffer[mEnd] = 0;
-    mIsAtEnd = nb == 0;
-    return nb > 0;
-}
-
-bool CXMLScanner::Need(std::size_t nb)
-{
-    while (mEnd - mPosition < nb)
-        if (!More())
-            return false;
-    return true;
-}
-
-bool CXMLScanner::StartsWith(std::string_view text)
-{
-    // One byte after the other, so that no byte behind a difference is waited for.
-    for (std::size_t i = 0; i < text.size(); ++i)
-        if (!Need(i + 1) || mBuffer[mPosition + i] != text[i])
-            return false;
-    return true;
-}
-
-char CXMLScanner::Peek()
-{
-    if (!Need(1))
-        Fail("unexpected end");
-    if (!mBuffer[mPosition])
-        Fail("NUL byte");
-    return mBuffer[mPosition];
-}
-
-char CXMLScanner::Get()
-{
-    const char c = Peek();
-    ++mPosition;
-    return c;
-}
-
-/// `test` is false for NUL.
-template <class TTest>
-void CXMLScanner::SkipWhile(TTest test)
-{
-    do {
-        const char* p = mBuffer.get() + mPosition;
-        while (test(*p))
-            ++p;
-        mPosition = static_cast<std::size_t>(p - mBuffer.get());
-    } while (mPosition == mEnd && More());
-}
-
-void CXMLScanner::SkipWhite()
-{
-    SkipWhile(isWhite);
-}
-
-void CXMLScanner::CountTokenLines()
-{
-    mTokenLines = countLines(mBuffer.get() + mTokenBegin, mBuffer.get() + mPosition);
-}
-
-/// Gives up the token; the next one begins here.
-void CXMLScanner::Release()
-{
-    mLine += mTokenLines;
-    mTokenLines = 0;
-    mTokenBegin = mPosition;
-}
-
-void CXMLScanner::Fail(const char* what, std::size_t upTo)
-{
-    const char* buffer = mBuffer.get();
-    const std::size_t line = mLine + countLines(buffer + mTokenBegin, buffer + upTo);
-    throw std::runtime_error("XML syntax error in line " + std::to_string(line) + ": " + what);
-}
-
-// ---- tokens
 
 CXMLScanner::EToken CXMLScanner::Next()
 {
@@ -464,78 +277,22 @@ CXMLScanner::EToken CXMLScanner::ScanText()
     return EToken::Text;
 }
 
-/// References become characters and line ends LF; in a value white space becomes blanks. The result
-/// is never longer than the source.
 void CXMLScanner::Decode(SPiece& piece, bool isValue)
 {
-    const char* in = At(piece.begin);
-    const char* end = At(piece.end);
-    char* out = At(piece.begin);
-    const auto offset = [&](const char* p) { return static_cast<std::size_t>(p - mBuffer.get()); };
-    while (in != end) {
-        const char c = *in++;
-        if (c == '&') {
-            const auto* stop =
-                static_cast<const char*>(std::memchr(in, ';', static_cast<std::size_t>(end - in)));
-            const unsigned code =
-                stop ? referenceCode({in, static_cast<std::size_t>(stop - in)}) : 0;
-            if (!code)
-                Fail("unknown reference", offset(out));
-            out = putUtf8(out, code);
-            in = stop + 1;
-        } else if (c == '\r') {
-            in += in != end && *in == '\n';
-            *out++ = isValue ? ' ' : '\n';
-        } else {
-            *out++ = isValue && isWhite(c) ? ' ' : c;
-        }
-    }
-    piece.end = piece.begin + static_cast<std::size_t>(out - At(piece.begin));
+    const SDecoded decoded = decodeText(At(piece.begin), At(piece.end), isValue);
+    if (!decoded.isGood)
+        Fail("unknown reference", static_cast<std::size_t>(decoded.end - mBuffer.get()));
+    piece.end = static_cast<std::size_t>(decoded.end - At(0));
 }
 
-// ---- document type declarations
-
-void CXMLScanner::SkipThrough(std::string_view mark)
-{
-    for (std::size_t nb = 0; nb < mark.size();) {
-        const char c = Get();
-        if (c == '\n')
-            ++mLine;
-        mTokenBegin = mPosition; // nothing of it is kept
-        if (c == mark[nb])
-            ++nb;
-        else if (!(nb == 2 && c == mark[1])) // "--->" ends a comment too, "??>" an instruction
-            nb = c == mark[0] ? 1 : 0;
-    }
-}
-
-/// Skips the declaration unread. Declarations in it nest by their brackets; quotes, comments and
-/// instructions may hold unpaired ones.
 void CXMLScanner::Doctype()
 {
     if (mIsRootSeen)
         Fail("document type declaration behind the root element");
-    mPosition += 9;
-    mTokenBegin = mPosition;
-    for (std::size_t depth = 1; depth > 0;) {
-        const char c = Get();
-        if (c == '\n')
-            ++mLine;
-        mTokenBegin = mPosition;
-        if (c == '"' || c == '\'')
-            SkipThrough({&c, 1});
-        else if (c == '<' && StartsWith("!--"))
-            mPosition += 3, SkipThrough("-->");
-        else if (c == '<' && StartsWith("?"))
-            SkipThrough("?>");
-        else if (c == '<')
-            ++depth;
-        else if (c == '>')
-            --depth;
-    }
+    Skip(9);
+    Release();
+    skipDoctype(*this);
 }
-
-// ---- CDATA
 
 CXMLScanner::EToken CXMLScanner::Section()
 {

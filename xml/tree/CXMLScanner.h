@@ -1,9 +1,8 @@
 #pragma once
 
-#include <zel/xml/XIXMLReadStream.h>
+#include "xml/tree/CXMLWindow.h"
 
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,18 +12,13 @@ namespace OrvaneXML {
 /// Cuts a stream into tokens and checks what can be checked without a tree: nesting, one root
 /// element, references, characters. Syntax errors are thrown as std::runtime_error with the line.
 ///
-/// The bytes stand in a window. A token lies in it as a whole, is decoded in place, and its texts
-/// are valid until the next token; the window grows with a token as its bytes arrive. The bytes of
-/// a CDATA section are handed out as they come and never collected here.
-///
-///     released | token  mTokenBegin .. mPosition | read ahead .. mEnd | free .. mCapacity
-class CXMLScanner {
+/// A token is decoded in place in the window, and its texts are valid until the next token. The
+/// bytes of a CDATA section are handed out as they come and never collected here.
+class CXMLScanner : private CXMLWindow {
 public:
     enum class EToken { End, StartTag, EndTag, Text, Comment, Instruction, CData };
 
-    explicit CXMLScanner(XIXMLReadStream& stream);
-    CXMLScanner(const CXMLScanner&) = delete;
-    CXMLScanner& operator=(const CXMLScanner&) = delete;
+    explicit CXMLScanner(XIXMLReadStream& stream) : CXMLWindow(stream) {}
 
     EToken Next();
 
@@ -56,22 +50,6 @@ private:
     {
         return {mBuffer.get() + mTokenBegin + piece.begin, piece.end - piece.begin};
     }
-    std::size_t Here() const { return mPosition - mTokenBegin; }
-    char* At(std::size_t offset) { return mBuffer.get() + mTokenBegin + offset; }
-
-    // The window
-    bool More();
-    void MakeRoom();
-    bool Need(std::size_t nb);
-    bool StartsWith(std::string_view text);
-    char Peek();
-    char Get();
-    template <class TTest>
-    void SkipWhile(TTest test);
-    void SkipWhite();
-    void Release();
-
-    // Tokens
     EToken Markup();
     EToken AtEnd();
     EToken StartTag();
@@ -82,7 +60,6 @@ private:
     EToken Instruction();
     EToken Section();
     void Doctype();
-    void SkipThrough(std::string_view mark);
     SPiece UpTo(std::string_view mark);
     SPiece ScanName();
     void ScanAttribute();
@@ -93,18 +70,6 @@ private:
     void Terminate(SPiece piece) { *At(piece.end) = 0; }
     std::size_t SectionBytes(std::size_t most);
     void SkipSection();
-    void CountTokenLines();
-    [[noreturn]] void Fail(const char* what, std::size_t upTo);
-    [[noreturn]] void Fail(const char* what) { Fail(what, mPosition); }
-
-    XIXMLReadStream& mStream;
-    std::unique_ptr<char[]> mBuffer;
-    std::size_t mCapacity;
-    std::size_t mTokenBegin = 0;
-    std::size_t mPosition = 0;
-    std::size_t mEnd = 0;
-    bool mIsAtEnd = false;
-
     SPiece mName;
     SPiece mText;
     std::vector<SAttribute> mAttributes;
@@ -118,8 +83,6 @@ private:
 
     std::string mOpenNames; // one behind the other
     std::vector<std::size_t> mOpenBegins;
-    std::size_t mLine = 1; // of mTokenBegin
-    std::size_t mTokenLines = 0;
 };
 
 } // namespace OrvaneXML

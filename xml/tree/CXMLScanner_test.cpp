@@ -1,12 +1,13 @@
 #include "xml/tree/CXMLScanner.h"
 
+#include "tests/support/messageOf.h"
 #include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
 namespace OrvaneXML {
 
-using namespace test;
+using namespace ZelTest;
 
 namespace {
 
@@ -15,7 +16,7 @@ using EToken = CXMLScanner::EToken;
 /// Everything that a scanner says about a document, as one line.
 std::string tokensOf(const std::string& text, std::size_t most = ~std::size_t{0})
 {
-    CStepReadStream source(text, most);
+    CXMLTextSource source(text, most);
     CXMLScanner scanner(source);
     std::string log;
     for (;;) {

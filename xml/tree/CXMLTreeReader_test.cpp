@@ -1,5 +1,6 @@
 #include "xml/tree/CXMLTreeReader.h"
 
+#include "tests/support/messageOf.h"
 #include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +11,7 @@
 
 namespace OrvaneXML {
 
-using namespace test;
+using namespace ZelTest;
 
 namespace {
 

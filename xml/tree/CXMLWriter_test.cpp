@@ -1,12 +1,13 @@
 #include "xml/tree/CXMLWriter.h"
 
+#include "tests/support/messageOf.h"
 #include "tests/support/xmlTree.h"
 
 #include <gtest/gtest.h>
 
 namespace OrvaneXML {
 
-using namespace test;
+using namespace ZelTest;
 
 namespace {
 
@@ -17,7 +18,7 @@ protected:
     XIXMLElement* add(const char* name) { return top->AddElement(top->MakeKey(name)); }
     bool isRefused() const
     {
-        CTextWriteStream sink;
+        CXMLTextTarget sink;
         const bool refused = messageOf([&] { tree.Write(&sink); }) != "no exception";
         EXPECT_TRUE(!refused || sink.text.empty());
         return refused;
@@ -168,7 +169,7 @@ TEST_F(XmlWriter, AnIncompleteSectionIsClosedAndReported)
 {
     add("a")->SetCData(new CBytes("half", false));
     add("b")->SetCData(new CBytes("", true));
-    CTextWriteStream sink;
+    CXMLTextTarget sink;
     EXPECT_FALSE(tree.Write(&sink));
     EXPECT_EQ(sink.text, "<top>\n\t<a><![CDATA[half]]></a>\n\t<b><![CDATA[]]></b>\n</top>\n");
     top->GetFirstElement()->SetCData(new CBytes("whole"));
@@ -203,7 +204,7 @@ TEST_F(XmlWriter, WhatAProviderThrowsStopsTheWrite)
     };
     add("a")->SetCData(new CThrowing);
     add("b");
-    CTextWriteStream sink;
+    CXMLTextTarget sink;
     EXPECT_EQ(messageOf([&] { tree.Write(&sink); }), "cancelled");
     EXPECT_EQ(sink.text.find("<b/>"), std::string::npos);
 }

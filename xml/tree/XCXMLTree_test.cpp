@@ -6,7 +6,7 @@
 
 namespace OrvaneXML {
 
-using namespace test;
+using namespace ZelTest;
 
 TEST(XmlTree, ANewTreeIsSmallAndEmpty)
 {
