@@ -8,6 +8,7 @@
 #include <iterator>
 #include <spawn.h>
 #include <stdexcept>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -53,6 +54,12 @@ std::string sample(const std::string& name)
     return std::string(ZEL_TEST_DATA) + "/samples/" + name;
 }
 
+std::string minimalWith(const std::string& elements)
+{
+    std::string text = contents(sample("minimal.zel"));
+    return text.insert(text.rfind("</Zel.File>"), elements);
+}
+
 static pid_t spawn(const std::vector<std::string>& arguments, const std::string& output,
                    const std::string& messages)
 {
@@ -79,10 +86,12 @@ CRun runProgram(std::vector<std::string> arguments)
     const std::string messages = folder.file("messages");
     const pid_t process = spawn(arguments, output, messages);
     int status = 0;
-    if (process < 0 || waitpid(process, &status, 0) < 0)
+    rusage usage = {};
+    if (process < 0 || wait4(process, &status, 0, &usage) < 0)
         throw std::runtime_error("can't run " + arguments[0]);
     CRun run;
     run.code = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    run.peakBytes = static_cast<std::size_t>(usage.ru_maxrss) * 1024;
     run.output = contents(output);
     run.messages = contents(messages);
     return run;

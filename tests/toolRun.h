@@ -26,11 +26,15 @@ private:
 std::string contents(const std::string& path);
 /// A file of the test data.
 std::string sample(const std::string& name);
+/// The text of a small document with the given elements in front of the end.
+std::string minimalWith(const std::string& elements);
 
 struct CRun {
     int code = -1; ///< of a program that was ended by a signal, 128 and its number
     std::string output;
     std::string messages;
+    /// The most memory that the program had at once. Never less than what this process has.
+    std::size_t peakBytes = 0;
 };
 
 /// Runs a program found by the search path and waits for its end.

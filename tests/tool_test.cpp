@@ -22,13 +22,6 @@ constexpr const char* kSquare = "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\n"
 
 class Tool : public testing::Test {
 protected:
-    /// A small document with the given elements in front of the end.
-    std::string document(const std::string& name, const std::string& elements) const
-    {
-        std::string text = contents(sample("minimal.zel"));
-        return mFolder.put(name, text.insert(text.rfind("</Zel.File>"), elements));
-    }
-
     static json info(const std::string& file)
     {
         const CRun run = runTool({"info", "--json", file});
@@ -139,6 +132,17 @@ TEST_F(Tool, ExitCodesTellWhatWentWrong)
         {{"info", "--nonsense", house}, 64},
         {{"rewrite", house}, 64},
         {{"rewrite", house, out, out}, 64},
+        {{"show"}, 64},
+        {{"check"}, 64},
+        {{"rewrite", "--min-version", "6.0", house, out}, 64},
+        {{"rewrite", "--min-version", "6.0.0.0", house, out}, 64},
+        {{"rewrite", "--min-version", "6.-0.0", house, out}, 64},
+        {{"rewrite", "--min-version", "6.0.99999999999", house, out}, 64},
+        {{"rewrite", "--min-version", "", house, out}, 64},
+        {{"show", text}, 65},
+        {{"check", text}, 65},
+        {{"show", missing}, 74},
+        {{"check", missing}, 74},
         {{"preview", house}, 64},
         {{"from-model", model}, 64},
         {{"to-model", house}, 64},
@@ -182,7 +186,8 @@ TEST_F(Tool, AWordThatIsNoCommandIsNamed)
 
 TEST_F(Tool, HelpIsOutputAndHasAnExample)
 {
-    for (const std::string command : {"", "info", "preview", "rewrite", "from-model", "to-model"}) {
+    for (const std::string command :
+         {"", "info", "show", "check", "preview", "rewrite", "from-model", "to-model"}) {
         std::vector<std::string> arguments = {"--help"};
         if (!command.empty())
             arguments.insert(arguments.begin(), command);
@@ -314,7 +319,7 @@ TEST_F(Tool, RewriteNamesWhatItDrops)
     EXPECT_THAT(early.messages, Not(HasSubstr("Application.Data")));
 
     const std::string data = "<Application.Data><Mine a=\"1\"/></Application.Data>";
-    const CRun withData = runTool({"rewrite", document("data.zel", data), out});
+    const CRun withData = runTool({"rewrite", mFolder.put("data.zel", minimalWith(data)), out});
     ASSERT_EQ(withData.code, 0) << withData.messages;
     EXPECT_THAT(withData.messages, HasSubstr("the section \"Application.Data\" isn't saved"));
     EXPECT_THAT(contents(out), Not(HasSubstr("Application.Data")));
@@ -322,11 +327,89 @@ TEST_F(Tool, RewriteNamesWhatItDrops)
     EXPECT_THAT(runTool({"rewrite", sample("minimal.zel"), out}).messages, IsEmpty());
 }
 
+TEST_F(Tool, RewriteClaimsTheVersionThatItIsGiven)
+{
+    const std::string out = mFolder.file("out.zel");
+    for (const std::vector<std::string>& options : {std::vector<std::string>{}, {"--bare"}}) {
+        std::vector<std::string> arguments = {"rewrite", "--min-version", "5.12.3",
+                                              sample("house.zel"), out};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        const CRun run = runTool(arguments);
+        ASSERT_EQ(run.code, 0) << run.messages;
+        EXPECT_THAT(contents(out), HasSubstr("<?Zel library=\"6.0.6\" file=\"6.0\" "
+                                             "min_version=\"5.12.3\" safe_version=\"5.12.3\"?>"));
+    }
+    ASSERT_EQ(runTool({"rewrite", sample("house.zel"), out}).code, 0);
+    EXPECT_THAT(contents(out), HasSubstr("min_version=\"6.0.0\" safe_version=\"6.0.4\"?>"));
+}
+
+// The small document as a library of the given versions would have written it.
+std::string byLibrary(const std::string& versions)
+{
+    std::string text = contents(sample("minimal.zel"));
+    const std::size_t begin = text.find("library=");
+    text.replace(begin, text.find("?>", begin) - begin, versions);
+    const std::string unnamed = "<?Application name=\"\"";
+    return text.replace(text.find(unnamed), unnamed.size(), "<?Application name=\"Vendralis\"");
+}
+
+TEST_F(Tool, RewriteRefusesANewerFileUnlessForced)
+{
+    const struct {
+        const char* versions;
+        int readability;
+        int code;
+    } cases[] = {
+        {R"(library="6.0.6" file="6.0" min_version="6.0.0" safe_version="6.0.4")", 3, 0},
+        {R"(library="7.0.0" file="6.0" min_version="6.0.0" safe_version="6.0.0")", 4, 65},
+        {R"(library="7.0.0" file="6.0" min_version="6.0.0" safe_version="7.0.0")", 5, 65},
+        {R"(library="7.0.0" file="6.0" min_version="7.0.0" safe_version="7.0.0")", 6, 65},
+    };
+    const std::string out = mFolder.file("out.zel");
+    for (const auto& item : cases) {
+        const std::string file = mFolder.put("in.zel", byLibrary(item.versions));
+        mFolder.put("out.zel", "as it was");
+        const CRun probed = runTool({"info", "--json", file});
+        ASSERT_EQ(json::parse(probed.output)["readability"], item.readability) << item.versions;
+
+        const CRun run = runTool({"rewrite", file, out});
+        EXPECT_EQ(run.code, item.code) << item.versions;
+        EXPECT_EQ(contents(out) == "as it was", item.code != 0) << item.versions;
+        EXPECT_EQ(run.messages, item.code == 0 ? ""
+                                               : "zel: " + file +
+                                                     ": written by a newer library, so a save may "
+                                                     "lose data (--force saves)\n");
+        const CRun forced = runTool({"rewrite", "--force", file, out});
+        EXPECT_EQ(forced.code, 0) << item.versions << forced.messages;
+        EXPECT_THAT(contents(out), HasSubstr("<?Zel library=\"6.0.6\"")) << item.versions;
+        EXPECT_EQ(runTool({"rewrite", "--bare", file, out}).code, 0) << item.versions;
+    }
+}
+
+TEST_F(Tool, RewriteRefusesALoadThatLostABlockUnlessForced)
+{
+    const std::string out = mFolder.put("out.zel", "as it was");
+    const std::string file =
+        mFolder.put("in.zel", minimalWith("<Points><![CDATA[\n2 \n0.0 0.0 0.0 \nx\n]]></Points>"));
+    const CRun run = runTool({"rewrite", file, out});
+    EXPECT_EQ(run.code, 65);
+    EXPECT_THAT(run.messages, HasSubstr(" while parsing 'Points' data block\n"));
+    EXPECT_THAT(run.messages, HasSubstr("sections that can't be read: 1, so a save may lose data"));
+    EXPECT_EQ(contents(out), "as it was");
+    EXPECT_THAT(mFolder.names(), ElementsAre("in.zel", "out.zel"));
+
+    const CRun forced = runTool({"rewrite", "--force", file, out});
+    EXPECT_EQ(forced.code, 0);
+    EXPECT_THAT(forced.messages, HasSubstr("sections that can't be read: 1; saved all the same"));
+    EXPECT_THAT(contents(out), HasSubstr("<Zel.File>"));
+    EXPECT_EQ(runTool({"rewrite", "--bare", file, out}).code, 0);
+}
+
 TEST_F(Tool, AnUnknownSectionIsToldAndKept)
 {
     const std::string out = mFolder.file("out.zel");
     const std::string section = "<Foreign><![CDATA[ a <b> ]]></Foreign>";
-    const CRun run = runTool({"rewrite", document("foreign.zel", section), out});
+    const CRun run = runTool({"rewrite", mFolder.put("foreign.zel", minimalWith(section)), out});
     EXPECT_EQ(run.code, 0);
     EXPECT_THAT(run.output, IsEmpty());
     EXPECT_EQ(run.messages, "Error \"CData block unknown\" while parsing 'Foreign' data block\n");
@@ -399,6 +482,62 @@ TEST_F(Tool, PointsAndLinesOfAModelAreLeftOut)
     ASSERT_EQ(run.code, 0) << run.messages;
     EXPECT_THAT(run.messages, HasSubstr("points and lines, left out: 2\n"));
     EXPECT_THAT(contents(file), HasSubstr("<Polygons><![CDATA[\n1 \n"));
+}
+
+TEST_F(Tool, PlacesOfOneMeshShareAPoint)
+{
+    // Two squares with a common edge, one of whose places is written in two ways, and a third one
+    // of another material: a mesh of its own, although it has the places of the first.
+    const std::string model = mFolder.put(
+        "squares.obj", "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nv 2 0 0\nv 2 1 0\nv 1 -0 0\n"
+                       "usemtl a\nf 1 2 3 4\nf 7 5 6 3\nusemtl b\nf 1 2 3 4\n");
+    const std::string file = mFolder.file("squares.zel");
+    const CRun run = runTool({"from-model", model, file});
+    ASSERT_EQ(run.code, 0) << run.messages;
+    const std::string first = "0.0 0.0 0.0 \n1.0 0.0 0.0 \n1.0 1.0 0.0 \n0.0 1.0 0.0 \n";
+    const std::string text = contents(file);
+    EXPECT_THAT(text, HasSubstr("<Points><![CDATA[\n10 \n" + first +
+                                "2.0 0.0 0.0 \n2.0 1.0 0.0 \n" + first + "]]>"));
+    const std::size_t polygons = text.find("<Polygons><![CDATA[\n3 \n");
+    ASSERT_NE(polygons, std::string::npos);
+    EXPECT_THAT(text.substr(polygons), HasSubstr(" 4 0 1 2 3 \n"));
+    EXPECT_THAT(text.substr(polygons), HasSubstr(" 4 1 4 5 2 \n"));
+    EXPECT_THAT(text.substr(polygons), HasSubstr(" 4 6 7 8 9 \n"));
+}
+
+TEST_F(Tool, TheMeshOfTheDocumentFollowsThoseOfItsComponents)
+{
+    std::string text = contents(sample("legacy.zel"));
+    text.insert(text.rfind("</Zel.File>"),
+                "<Points><![CDATA[\n3 \n9.0 0.0 0.0 \n9.0 1.0 0.0 \n9.0 0.0 1.0 \n]]></Points>"
+                "<Polygons><![CDATA[\n1 \np\t6 3 2 1 0 \n]]></Polygons>");
+    const std::string out = mFolder.file("out.obj");
+    const CRun run = runTool({"to-model", mFolder.put("in.zel", text), out});
+    ASSERT_EQ(run.code, 0) << run.messages;
+    EXPECT_THAT(contents(out),
+                testing::StartsWith("o component_BE47E8B0CAAACD0F6FBF214CEB78CD7F\n"));
+    EXPECT_THAT(contents(out), testing::EndsWith("\nv 9 0 0\nv 9 1 0\nv 9 0 1\n"
+                                                 "usemtl material_6\nf 19 18 17\n"));
+}
+
+TEST_F(Tool, PolygonsWithoutPointsOfTheirOwnAreLeftOut)
+{
+    std::string text = contents(sample("legacy.zel"));
+    text.insert(text.rfind("</Zel.File>"),
+                "<Polygons><![CDATA[\n1 \np\t6 3 2 1 0 \n]]></Polygons>");
+    const std::string out = mFolder.file("out.obj");
+    const CRun run = runTool({"to-model", mFolder.put("in.zel", text), out});
+    ASSERT_EQ(run.code, 0) << run.messages;
+    EXPECT_THAT(run.messages, HasSubstr("loops that can't be faces, left out: 1\n"));
+}
+
+TEST_F(Tool, NamesNeedNotBeAscii)
+{
+    const std::string in =
+        mFolder.put("d\u00e9j\u00e0 vu \u5bb6.zel", contents(sample("house.zel")));
+    const std::string out = mFolder.file("\u51fa.zel");
+    ASSERT_EQ(runTool({"rewrite", in, out}).code, 0);
+    EXPECT_EQ(info(out)["file"], out);
 }
 
 TEST_F(Tool, MeshesBecomeAnObjFile)

@@ -1,6 +1,7 @@
 #include "tools/CAtomicFile.h"
 
 #include "tools/CToolError.h"
+#include "tools/interrupt.h"
 #include "tools/platform.h"
 
 #include <filesystem>
@@ -57,6 +58,7 @@ void CAtomicFile::fail(const std::string& why) const
 
 void CAtomicFile::check()
 {
+    checkInterrupt();
     mStream.flush();
     if (mStream.hasFailed())
         fail(mStream.getFailure());
@@ -69,6 +71,7 @@ void CAtomicFile::commit()
         fail(lastFailure());
     const bool closed = closeFile(mDescriptor);
     mDescriptor = -1;
+    checkInterrupt();
     if (!closed || !replaceFile(mTemporary, mTarget))
         fail(lastFailure());
     mTemporary.clear();

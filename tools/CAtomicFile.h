@@ -20,9 +20,10 @@ public:
     CAtomicFile& operator=(const CAtomicFile&) = delete;
 
     CFileWriteStream& stream() { return mStream; }
-    /// Throws CToolError(eIoError) when a write failed; the target is then as it was.
+    /// Throws CToolError(eIoError) when a write failed; the target is then as it was. A
+    /// request to stop throws what checkInterrupt does, up to the moment of the replacement.
     void commit();
-    /// Throws what commit would throw for the writes up to now.
+    /// Throws what commit would throw for the writes up to now, or what checkInterrupt throws.
     void check();
 
 private:

@@ -1,6 +1,7 @@
 #include "tools/CFileReadStream.h"
 
 #include "tools/CToolError.h"
+#include "tools/interrupt.h"
 #include "tools/platform.h"
 
 namespace tool {
@@ -14,6 +15,8 @@ CFileReadStream::CFileReadStream(const std::string& path)
 
 std::uint32_t CFileReadStream::read(void* buffer, std::uint32_t size)
 {
+    if (isInterrupted())
+        return 0;
     mFile.clear();
     mFile.read(static_cast<char*>(buffer), static_cast<std::streamsize>(size));
     mFailed = mFailed || mFile.bad();
@@ -35,6 +38,7 @@ void CFileReadStream::setPosition(std::int64_t position)
 
 void CFileReadStream::check() const
 {
+    checkInterrupt();
     if (mFailed)
         throw CToolError(eIoError, mPath + ": can't read");
 }

@@ -8,7 +8,7 @@
 namespace tool {
 
 /// A file as the library reads it. The library takes a failed read for the end of the file, so the
-/// stream remembers the failure.
+/// stream remembers the failure. A request to stop ends the file in the same way.
 class CFileReadStream final : public OvZel::IZelReadStream {
 public:
     /// Throws CToolError(eIoError) when the file cannot be opened or has no positions.
@@ -18,7 +18,8 @@ public:
     std::int64_t getPosition() override;
     void setPosition(std::int64_t position) override;
 
-    /// Throws CToolError(eIoError) when a read or a change of position has failed.
+    /// Throws CToolError(eIoError) when a read or a change of position has failed,
+    /// or what checkInterrupt throws.
     void check() const;
 
 private:

@@ -1,5 +1,6 @@
 #include "tools/CFileWriteStream.h"
 
+#include "tools/interrupt.h"
 #include "tools/platform.h"
 
 namespace tool {
@@ -25,7 +26,7 @@ void CFileWriteStream::writeText(const std::string& text)
 
 void CFileWriteStream::flush()
 {
-    if (!mFailed && !writeAll(mDescriptor, mPending.data(), mPending.size())) {
+    if (!mFailed && (isInterrupted() || !writeAll(mDescriptor, mPending.data(), mPending.size()))) {
         mFailed = true;
         mFailure = lastFailure();
     }

@@ -1,6 +1,9 @@
 #include "tools/CObjWriter.h"
 
 #include "tools/CFileWriteStream.h"
+#include "tools/oneLine.h"
+
+#include <zel/IZelPolygon.h>
 
 #include <charconv>
 #include <string_view>
@@ -29,21 +32,27 @@ void CObjWriter::addInteger(std::int64_t value)
     mLine.append(text, std::to_chars(text, text + sizeof text, value).ptr);
 }
 
-void CObjWriter::addMesh(const std::string& name, OvZel::TZelObjectMgr<OvZel::CZelPoint>& points,
-                         OvZel::TZelObjectMgr<OvZel::IZelPolygon>& polygons)
+void CObjWriter::startPoints(const OvZel::CZelUUID& id)
 {
-    if (!name.empty())
-        mStream.writeText("o " + name + "\n");
+    mMesh = id;
     mNbPointsBefore += mNbPoints;
-    mNbPoints = points.getNbObjects();
-    for (std::int32_t i = 0; i < points.getNbObjects(); ++i)
-        addPoint(*points.getZelObject(i));
-    for (std::int32_t i = 0; i < polygons.getNbObjects(); ++i)
-        addPolygon(*polygons.getZelObject(i));
+    mNbPoints = 0;
+    if (!id.isNull())
+        mStream.writeText("o component_" + idText(id) + "\n");
+}
+
+void CObjWriter::startPolygons(const OvZel::CZelUUID& id)
+{
+    if (id == mMesh)
+        return;
+    mMesh = id;
+    mNbPointsBefore += mNbPoints;
+    mNbPoints = 0;
 }
 
 void CObjWriter::addPoint(const OvZel::CZelPoint& point)
 {
+    ++mNbPoints;
     mLine = "v";
     addReal(point.x);
     addReal(point.y);

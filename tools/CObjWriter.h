@@ -1,6 +1,8 @@
 #pragma once
 
-#include <zel/IZelMgr.h>
+#include <zel/CZelPoint.h>
+#include <zel/CZelUUID.h>
+#include <zel/IZelPolygon.h>
 
 #include <cstdint>
 #include <string>
@@ -9,7 +11,7 @@ namespace tool {
 
 class CFileWriteStream;
 
-/// Writes meshes as the text of an OBJ file, the same in every locale.
+/// Writes meshes, as they come, as the text of an OBJ file, the same in every locale.
 ///
 /// OBJ knows no holes: the outer loop and each hole become a face of their own, behind a comment.
 /// Loops that OBJ cannot hold, with less than three corners or with a corner at a point that the
@@ -18,9 +20,13 @@ class CObjWriter {
 public:
     explicit CObjWriter(CFileWriteStream& stream) : mStream(stream) {}
 
-    /// Appends a mesh. An empty name gives it none.
-    void addMesh(const std::string& name, OvZel::TZelObjectMgr<OvZel::CZelPoint>& points,
-                 OvZel::TZelObjectMgr<OvZel::IZelPolygon>& polygons);
+    /// The points of a mesh follow; that of a component gets a name from its identifier.
+    void startPoints(const OvZel::CZelUUID& id);
+    void addPoint(const OvZel::CZelPoint& point);
+    /// The polygons of a mesh follow. They belong to the points just before, if these are of the
+    /// same mesh; otherwise the mesh has no points.
+    void startPolygons(const OvZel::CZelUUID& id);
+    void addPolygon(OvZel::IZelPolygon& polygon);
 
     std::uint64_t getNbWithHoles() const { return mNbWithHoles; }
     std::uint64_t getNbLeftOut() const { return mNbLeftOut; }
@@ -28,8 +34,6 @@ public:
 private:
     using CVertices = OvZel::TZelObjectMgr<OvZel::CZelVertex>;
 
-    void addPoint(const OvZel::CZelPoint& point);
-    void addPolygon(OvZel::IZelPolygon& polygon);
     void addMaterial(std::int32_t material);
     void addLoop(CVertices& vertices);
     void addMapping(CVertices& vertices);
@@ -39,6 +43,7 @@ private:
 
     CFileWriteStream& mStream;
     std::string mLine;
+    OvZel::CZelUUID mMesh;
     std::int64_t mNbPointsBefore = 0; // of the meshes already written
     std::int64_t mNbPoints = 0;       // of the mesh at hand
     std::int64_t mNbMappings = 0;

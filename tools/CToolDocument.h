@@ -10,7 +10,8 @@
 
 namespace tool {
 
-/// A document of the library, loaded from and saved to files. Messages go to standard error.
+/// A document of the library, loaded from and saved to files. Messages go to standard error, and a
+/// request to stop ends each operation with what checkInterrupt throws.
 class CToolDocument {
 public:
     /// A new, empty document.
@@ -18,12 +19,17 @@ public:
 
     OvZel::IZelMgr* operator->() const { return mMgr.operator->(); }
     OvZel::IZelMgr& operator*() const { return *mMgr; }
+    CToolFeedback& feedback() { return mFeedback; }
 
     /// Throws CToolError: eNotReadable when the library refuses it, eIoError when the file fails.
-    void read(CFileReadStream& stream, const std::string& path);
+    /// A null reader keeps the meshes in the document.
+    void read(CFileReadStream& stream, const std::string& path,
+              OvZel::IZelExtStorageReader* reader = nullptr);
     /// Throws CToolError: eNotReadable when the document cannot be saved for a reason of its own,
-    /// eIoError when the file fails. The target is then as it was.
-    void save(const std::string& target);
+    /// eIoError when the file fails. The target is then as it was. Writer and version as in
+    /// IZelMgr::writeVersion.
+    void save(const std::string& target, OvZel::IZelExtStorageWriter* writer = nullptr,
+              const OvZel::CZelVersion* version = nullptr);
 
 private:
     CToolFeedback mFeedback; // outlives the document

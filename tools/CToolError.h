@@ -6,7 +6,15 @@
 namespace tool {
 
 /// What the tool ends with.
-enum EExit : int { eDone = 0, eUsage = 64, eNotReadable = 65, eIoError = 74 };
+enum EExit : int {
+    eDone = 0,
+    eFindings = 1,
+    eUsage = 64,
+    eNotReadable = 65,
+    eIoError = 74,
+    eInterrupted = 130, // by Ctrl-C
+    eTerminated = 143,  // by SIGTERM
+};
 
 /// A failure that ends a command, with its exit code and the text for standard error.
 class CToolError : public std::runtime_error {

@@ -3,11 +3,12 @@
 #include "tools/CFileReadStream.h"
 #include "tools/CToolOutput.h"
 #include "tools/THeld.h"
+#include "tools/eachFile.h"
+#include "tools/oneLine.h"
 
 #include <zel/IZelMgr.h>
 
 #include <algorithm>
-#include <nlohmann/json.hpp>
 
 namespace tool {
 
@@ -77,7 +78,7 @@ static std::string versionText(const OvZel::CZelVersion& version)
            std::to_string(version.patch);
 }
 
-static std::string jsonLine(const CInfo& info)
+static std::string jsonText(const CInfo& info)
 {
     ordered_json preview;
     if (info.width > 0 && info.height > 0)
@@ -88,42 +89,29 @@ static std::string jsonLine(const CInfo& info)
         {"label", info.label},       {"origin", {info.origin[0], info.origin[1], info.origin[2]}},
         {"uuid", info.uuid},         {"preview", preview},
     };
-    // A file name need not be UTF-8.
-    return object.dump(-1, ' ', false, ordered_json::error_handler_t::replace) + "\n";
+    return jsonLine(object);
 }
 
 static std::string textLine(const CInfo& info)
 {
-    std::string file = info.file;
-    std::replace_if(
-        file.begin(), file.end(), [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, '?');
-    return file + "\t" + versionText(info.version) + "\t" +
+    return oneLine(info.file) + "\t" + versionText(info.version) + "\t" +
            (info.label.empty() ? "-" : info.label) + "\t" + kReadabilityWords[info.readability] +
            "\n";
 }
 
 static EExit infoOfFile(const std::string& file, bool asJson, CToolOutput& output)
 {
-    CInfo info;
-    try {
-        info = probe(file);
-    } catch (const CToolError& error) {
-        complain(error.what());
-        return error.code();
-    }
-    output.write(asJson ? jsonLine(info) : textLine(info));
+    const CInfo info = probe(file);
+    output.write(asJson ? jsonText(info) : textLine(info));
     if (info.accepted)
         return eDone;
-    complain(file + ": not readable");
-    return eNotReadable;
+    throw CToolError(eNotReadable, file + ": not readable");
 }
 
 EExit infoCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output)
 {
-    EExit worst = eDone;
-    for (const std::string& file : files)
-        worst = std::max(worst, infoOfFile(file, asJson, output));
-    return worst;
+    return eachFile(files,
+                    [&](const std::string& file) { return infoOfFile(file, asJson, output); });
 }
 
 } // namespace tool

@@ -1,10 +1,13 @@
 #include "tools/CToolOutput.h"
 #include "tools/commands.h"
+#include "tools/interrupt.h"
 
 #include <CLI/CLI.hpp>
 
+#include <charconv>
 #include <cstdio>
 #include <functional>
+#include <optional>
 #include <sstream>
 
 namespace tool {
@@ -16,7 +19,7 @@ struct CArguments {
     std::string out;
     std::string preview;
     bool asJson = false;
-    bool bare = false;
+    CRewrite rewrite;
     std::function<EExit()> command;
 };
 
@@ -30,6 +33,34 @@ static void addInfo(CLI::App& app, CArguments& arguments, CToolOutput& output)
                  "Example: zel info --json house.zel garden.zel");
     info->callback([&] {
         arguments.command = [&] { return infoCommand(arguments.files, arguments.asJson, output); };
+    });
+}
+
+static void addShow(CLI::App& app, CArguments& arguments, CToolOutput& output)
+{
+    CLI::App* show = app.add_subcommand("show", "Loads a document and outlines what is in it");
+    show->add_flag("--json", arguments.asJson, "One JSON object");
+    show->add_option("FILE", arguments.in, "The document to load")->required();
+    show->footer("Example: zel show house.zel");
+    show->callback([&] {
+        arguments.command = [&] {
+            showCommand(arguments.in, arguments.asJson, output);
+            return eDone;
+        };
+    });
+}
+
+static void addCheck(CLI::App& app, CArguments& arguments, CToolOutput& output)
+{
+    CLI::App* check = app.add_subcommand("check", "Loads documents and tells what is odd in them");
+    check->add_flag("--json", arguments.asJson, "One JSON object for each finding and line");
+    check->add_option("FILE", arguments.files, "Documents to load")->required();
+    check->footer("Each line holds file, code and text of a finding. The codes:\n" +
+                  findingCodes() +
+                  "Exit codes: 0 no finding, 1 findings, 65 a file is not readable.\n\n"
+                  "Example: zel check house.zel garden.zel");
+    check->callback([&] {
+        arguments.command = [&] { return checkCommand(arguments.files, arguments.asJson, output); };
     });
 }
 
@@ -47,18 +78,47 @@ static void addPreview(CLI::App& app, CArguments& arguments)
     });
 }
 
+// Three numbers with points between them, or nothing.
+static std::optional<OvZel::CZelVersion> versionOf(const std::string& text)
+{
+    OvZel::CZelVersion version;
+    const char* place = text.data();
+    const char* const end = place + text.size();
+    for (std::int32_t* part : {&version.major, &version.minor, &version.patch}) {
+        if (part != &version.major && (place == end || *place++ != '.'))
+            return std::nullopt;
+        const auto [behind, error] = std::from_chars(place, end, *part);
+        if (error != std::errc() || *part < 0 || *place == '-')
+            return std::nullopt;
+        place = behind;
+    }
+    return place == end ? std::optional(version) : std::nullopt;
+}
+
 static void addRewrite(CLI::App& app, CArguments& arguments)
 {
     CLI::App* rewrite = app.add_subcommand("rewrite", "Loads a document and saves it");
-    rewrite->add_flag("--bare", arguments.bare,
-                      "Load and save only: the preview picture of a newer file is lost");
-    rewrite->add_option("IN", arguments.in, "The document to load")->required();
-    rewrite->add_option("OUT", arguments.out, "The document to save; may be IN")->required();
-    rewrite->footer("OUT is replaced as a whole or not at all.\n\n"
-                    "Example: zel rewrite old.zel new.zel");
+    CRewrite& request = arguments.rewrite;
+    rewrite
+        ->add_option_function<std::string>(
+            "--min-version", [&](const std::string& text) { request.minVersion = versionOf(text); },
+            "The oldest library version that OUT claims to be readable by")
+        ->check([](const std::string& text) {
+            return versionOf(text) ? std::string() : text + " is no version such as 6.0.0";
+        })
+        ->type_name("A.B.C");
+    rewrite->add_flag("--bare", request.bare,
+                      "Load and save only: no check, and the preview picture of a newer file is "
+                      "lost");
+    rewrite->add_flag("--force", request.force, "Save also where data of IN is lost");
+    rewrite->add_option("IN", request.in, "The document to load")->required();
+    rewrite->add_option("OUT", request.out, "The document to save; may be IN")->required();
+    rewrite->footer("OUT is replaced as a whole or not at all. A file that a newer library wrote, "
+                    "or of which\na block can't be read, is refused unless forced.\n\n"
+                    "Example: zel rewrite --min-version 6.0.0 old.zel new.zel");
     rewrite->callback([&] {
         arguments.command = [&] {
-            rewriteCommand(arguments.in, arguments.out, arguments.bare);
+            rewriteCommand(arguments.rewrite);
             return eDone;
         };
     });
@@ -109,12 +169,17 @@ static EExit stopParsing(const CLI::App& app, const CLI::ParseError& error, CToo
 static EExit run(int argc, char** argv, CToolOutput& output)
 {
     CLI::App app("Looks into, converts and rewrites ZEL scene documents.", "zel");
-    app.footer("Exit codes: 0 done, 64 wrong usage, 65 not readable, 74 a file can't be read or "
-               "written.\nOutput goes to standard output, messages to standard error.\n\n"
-               "Example: zel info house.zel");
+    app.footer(
+        "Exit codes: 0 done, 1 check has findings, 64 wrong usage, 65 not readable, 74 a file "
+        "can't be\nread or written, 130 and 143 stopped by Ctrl-C or SIGTERM; the output "
+        "file is then as it was.\n"
+        "Output goes to standard output, messages to standard error.\n\n"
+        "Example: zel info house.zel");
     app.require_subcommand(1);
     CArguments arguments;
     addInfo(app, arguments, output);
+    addShow(app, arguments, output);
+    addCheck(app, arguments, output);
     addPreview(app, arguments);
     addRewrite(app, arguments);
     addFromModel(app, arguments);
@@ -135,16 +200,24 @@ static EExit run(int argc, char** argv, CToolOutput& output)
 
 } // namespace tool
 
+// Nobody needs to be told of what was asked for.
+static int failure(const char* text, tool::EExit code)
+{
+    if (tool::isInterrupted())
+        return tool::interruptExit();
+    tool::complain(text);
+    return code;
+}
+
 int main(int argc, char** argv)
 {
+    tool::watchInterrupts();
     tool::CToolOutput output;
     try {
         return tool::run(argc, argv, output);
     } catch (const tool::CToolError& error) {
-        tool::complain(error.what());
-        return error.code();
+        return failure(error.what(), error.code());
     } catch (const std::exception& error) {
-        tool::complain(error.what());
-        return tool::eIoError;
+        return failure(error.what(), tool::eIoError);
     }
 }

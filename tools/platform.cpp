@@ -1,5 +1,7 @@
 #include "tools/platform.h"
 
+#include "tools/interrupt.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -30,7 +32,7 @@ bool writeAll(int descriptor, const char* bytes, std::size_t size)
 {
     while (size > 0) {
         const ssize_t written = ::write(descriptor, bytes, size);
-        if (written < 0 && errno == EINTR)
+        if (written < 0 && errno == EINTR && !isInterrupted())
             continue;
         if (written <= 0)
             return false;
@@ -68,6 +70,11 @@ bool replaceFile(const std::string& from, const std::string& to)
 void removeFile(const std::string& path)
 {
     ::unlink(path.c_str());
+}
+
+bool isErrorTerminal()
+{
+    return ::isatty(STDERR_FILENO) == 1;
 }
 
 long processNumber()

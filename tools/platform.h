@@ -12,7 +12,7 @@ namespace tool {
 int takeStandardOutput();
 /// Opens a file that must not exist yet, with the permissions of another file if that exists.
 int createFile(const std::string& path, const std::string& permissionsOf);
-/// False when not all bytes could be written.
+/// False when not all bytes could be written, also when the user asks to stop meanwhile.
 bool writeAll(int descriptor, const char* bytes, std::size_t size);
 /// Waits until the file's bytes are on the disk.
 bool flushToDisk(int descriptor);
@@ -20,6 +20,8 @@ bool closeFile(int descriptor);
 /// Puts a file in the place of another one of the same folder, in one step.
 bool replaceFile(const std::string& from, const std::string& to);
 void removeFile(const std::string& path);
+/// Whether standard error leads to a terminal.
+bool isErrorTerminal();
 long processNumber();
 std::string lastFailure();
 

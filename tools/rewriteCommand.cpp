@@ -18,22 +18,59 @@ static void keepPreview(CToolDocument& document, OvZel::IZelImage& preview)
     document->getPreviewImage()->setImage(width, height, pixels);
 }
 
-void rewriteCommand(const std::string& in, const std::string& out, bool bare)
+static void refuseUnlessForced(const CRewrite& request, const std::string& why)
 {
-    CFileReadStream stream(in);
-    THeld<OvZel::IZelImage> preview;
-    if (!bare) {
-        OvZel::IZelMgr::readPreviewImage(preview.out(), &stream);
-        stream.setPosition(0);
-    }
+    if (!request.force)
+        throw CToolError(eNotReadable,
+                         request.in + ": " + why + ", so a save may lose data (--force saves)");
+    complain(request.in + ": " + why + "; saved all the same");
+}
+
+static void checkVersion(CFileReadStream& stream, const CRewrite& request)
+{
+    OvZel::IZelMgr::eReadability readability = OvZel::IZelMgr::eUnknown;
+    OvZel::IZelMgr::checkFormat2(&stream, &readability, nullptr, nullptr, 0);
+    stream.check();
+    if (readability >= OvZel::IZelMgr::eNewer && readability <= OvZel::IZelMgr::eTooNew)
+        refuseUnlessForced(request, "written by a newer library");
+}
+
+static void checkBlocks(CToolDocument& document, const CRewrite& request)
+{
+    const std::uint64_t nbLost = document.feedback().getNbLostBlocks();
+    if (nbLost > 0)
+        refuseUnlessForced(request, "sections that can't be read: " + std::to_string(nbLost));
+}
+
+static void saveAs(CToolDocument& document, const CRewrite& request)
+{
+    document.save(request.out, nullptr, request.minVersion ? &*request.minVersion : nullptr);
+}
+
+static void rewriteBare(CFileReadStream& stream, const CRewrite& request)
+{
     CToolDocument document;
-    document.read(stream, in);
-    if (!bare) {
-        reportDroppedSections(*document, in);
-        if (preview)
-            keepPreview(document, *preview);
-    }
-    document.save(out);
+    document.read(stream, request.in);
+    saveAs(document, request);
+}
+
+void rewriteCommand(const CRewrite& request)
+{
+    CFileReadStream stream(request.in);
+    if (request.bare)
+        return rewriteBare(stream, request);
+    checkVersion(stream, request);
+    THeld<OvZel::IZelImage> preview;
+    OvZel::IZelMgr::readPreviewImage(preview.out(), &stream);
+    stream.setPosition(0);
+
+    CToolDocument document;
+    document.read(stream, request.in);
+    checkBlocks(document, request);
+    reportDroppedSections(*document, request.in);
+    if (preview)
+        keepPreview(document, *preview);
+    saveAs(document, request);
 }
 
 } // namespace tool

@@ -30,4 +30,7 @@ run(${work}/by_pkg_config ${work}/by_pkg_config.zel)
 # The tool must find the library from where both were installed.
 if(EXISTS ${prefix}/bin/zel)
     run(${prefix}/bin/zel info ${work}/by_package.zel)
+    if(NOT EXISTS ${prefix}/share/man/man1/zel.1)
+        message(FATAL_ERROR "The manual page isn't installed")
+    endif()
 endif()

@@ -1,0 +1,88 @@
+#ifdef ZEL_TOOL // without the tool there is nothing to test
+
+#include "tests/toolRun.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <regex>
+#include <set>
+#include <sstream>
+
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+
+std::string manual()
+{
+    const std::string path = std::string(ZEL_TEST_DATA) + "/../../tools/zel.1";
+    return std::regex_replace(contents(path), std::regex(R"(\\-)"), "-");
+}
+
+/// The part of the manual about one command.
+std::string section(const std::string& command)
+{
+    const std::string text = manual();
+    const std::size_t begin = text.find("\n.SS " + command + " ");
+    if (begin == std::string::npos)
+        return "";
+    return text.substr(begin, text.find("\n.S", begin + 1) - begin);
+}
+
+std::set<std::string> found(const std::string& text, const char* pattern)
+{
+    std::set<std::string> all;
+    const std::regex expression(pattern);
+    for (std::sregex_iterator i(text.begin(), text.end(), expression), end; i != end; ++i)
+        all.insert(i->str(1));
+    return all;
+}
+
+/// What stands behind the heading in the help, where each line begins with a command.
+std::set<std::string> commands()
+{
+    const std::string help = runTool({"--help"}).output;
+    return found(help.substr(help.find("Subcommands:")), "\n  ([a-z][a-z-]*) ");
+}
+
+TEST(ToolManual, HasEveryCommandAndOptionOfTheHelp)
+{
+    ASSERT_THAT(commands(), Contains("rewrite"));
+    for (const std::string& command : commands()) {
+        const std::string help = runTool({command, "--help"}).output;
+        const std::set<std::string> options = found(help, "\n  (?:-[a-z],)?(--[a-z-]+)");
+        EXPECT_THAT(options, Contains("--help")) << command;
+        EXPECT_EQ(found(section(command), "(--[a-z-]+)"), options) << command;
+    }
+    EXPECT_THAT(found(runTool({"rewrite", "--help"}).output, "\n  (--[a-z-]+)"),
+                testing::ElementsAre("--bare", "--force", "--min-version"));
+}
+
+TEST(ToolManual, HasNoCommandThatTheHelpLacks)
+{
+    EXPECT_EQ(found(manual(), "\n\\.SS ([a-z-]+)"), commands());
+}
+
+TEST(ToolManual, HasTheExamplesOfTheHelp)
+{
+    for (const std::string& command : commands()) {
+        const std::string help = runTool({command, "--help"}).output;
+        const std::size_t begin = help.find("Example: ");
+        ASSERT_NE(begin, std::string::npos) << command;
+        const std::string example = help.substr(begin + 9, help.find('\n', begin) - begin - 9);
+        EXPECT_THAT(example, HasSubstr("zel " + command + " "));
+        EXPECT_THAT(manual(), HasSubstr("\n" + example + "\n"));
+    }
+}
+
+TEST(ToolManual, HasTheCodesOfTheChecks)
+{
+    const std::set<std::string> codes =
+        found(runTool({"check", "--help"}).output, "\n *([EW][0-9]{3}) ");
+    EXPECT_THAT(codes, Contains("E001"));
+    EXPECT_EQ(found(section("check"), "\n\\.B ([EW][0-9]{3})\n"), codes);
+}
+
+} // namespace
+
+#endif
