@@ -10,13 +10,14 @@
 
 namespace OvZel {
 
-/// A list of plain records in one flat buffer. A new record is all zero bytes.
-template <class T>
-class TSimpleMgr : public TObjectMgrBase<T> {
+/// A list of plain records in one flat buffer. A new record is all zero bytes. Base is what carries
+/// the count, the basic data and the owner.
+template <class T, class Base = TObjectMgrBase<T>>
+class TSimpleMgr : public Base {
     static_assert(std::is_trivially_copyable_v<T>, "records are moved as bytes");
 
 public:
-    explicit TSimpleMgr(IZelObjectLink* owner, std::int32_t capacity = 0) : TObjectMgrBase<T>(owner)
+    explicit TSimpleMgr(IZelObjectLink* owner, std::int32_t capacity = 0) : Base(owner)
     {
         if (capacity > 0)
             TSimpleMgr::reserve(capacity);
@@ -60,8 +61,8 @@ private:
     T* mRecords = nullptr;
 };
 
-template <class T>
-void TSimpleMgr<T>::removeObject(std::int32_t index)
+template <class T, class Base>
+void TSimpleMgr<T, Base>::removeObject(std::int32_t index)
 {
     if (index == -1) {
         if (mCount == 0)
@@ -75,8 +76,8 @@ void TSimpleMgr<T>::removeObject(std::int32_t index)
                  static_cast<std::size_t>(mCount - index) * sizeof(T));
 }
 
-template <class T>
-void TSimpleMgr<T>::moveObject(std::int32_t from, std::int32_t to)
+template <class T, class Base>
+void TSimpleMgr<T, Base>::moveObject(std::int32_t from, std::int32_t to)
 {
     if (from == to)
         return;
@@ -89,8 +90,8 @@ void TSimpleMgr<T>::moveObject(std::int32_t from, std::int32_t to)
         *place = record;
 }
 
-template <class T>
-bool TSimpleMgr<T>::reserve(std::int32_t count)
+template <class T, class Base>
+bool TSimpleMgr<T, Base>::reserve(std::int32_t count)
 {
     if (count < 0)
         return false;
@@ -111,8 +112,8 @@ bool TSimpleMgr<T>::reserve(std::int32_t count)
     return false;
 }
 
-template <class T>
-T* TSimpleMgr<T>::getZelObject(std::int32_t index)
+template <class T, class Base>
+T* TSimpleMgr<T, Base>::getZelObject(std::int32_t index)
 {
     if (this->isBelow(index, static_cast<std::size_t>(mCount)))
         return mRecords + index;
@@ -120,8 +121,8 @@ T* TSimpleMgr<T>::getZelObject(std::int32_t index)
     return nullptr;
 }
 
-template <class T>
-T* TSimpleMgr<T>::newZelObject(std::int32_t index)
+template <class T, class Base>
+T* TSimpleMgr<T, Base>::newZelObject(std::int32_t index)
 {
     if (mCount == mCapacity && !grow())
         return nullptr;
@@ -139,8 +140,8 @@ T* TSimpleMgr<T>::newZelObject(std::int32_t index)
     return record;
 }
 
-template <class T>
-void TSimpleMgr<T>::releaseSpareRoom() noexcept
+template <class T, class Base>
+void TSimpleMgr<T, Base>::releaseSpareRoom() noexcept
 {
     if (mCount == mCapacity)
         return;
@@ -151,8 +152,8 @@ void TSimpleMgr<T>::releaseSpareRoom() noexcept
     }
 }
 
-template <class T>
-bool TSimpleMgr<T>::append(const T* records, std::int32_t count)
+template <class T, class Base>
+bool TSimpleMgr<T, Base>::append(const T* records, std::int32_t count)
 {
     if (count <= 0)
         return true;
@@ -166,8 +167,8 @@ bool TSimpleMgr<T>::append(const T* records, std::int32_t count)
     return true;
 }
 
-template <class T>
-bool TSimpleMgr<T>::grow()
+template <class T, class Base>
+bool TSimpleMgr<T, Base>::grow()
 {
     constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
     if (mCapacity == kMost)

@@ -9,8 +9,8 @@ namespace OvZel {
 
 /// A client's stream as the XML layer reads it.
 ///
-/// The layer asks for as much as its window holds. A probe that needs only the head of a file sets a
-/// smaller piece, so that a stream over a network isn't read for nothing.
+/// The layer asks for as much as its window holds. A probe that needs only the head of a file sets
+/// a smaller piece, so that a stream over a network isn't read for nothing.
 class CZELXMLReadStream : public OrvaneXML::XIXMLReadStream {
 public:
     static constexpr std::uint32_t kWhole = 0xFFFFFFFF;

@@ -188,7 +188,7 @@ void CFastReader::readPoint(double (&xyz)[3])
         coordinate = readDouble();
 }
 
-void CFastReader::readLoop(TSimpleMgr<CZelVertex>& vertices)
+void CFastReader::readLoop(CVertexMgr& vertices)
 {
     const std::int32_t count = readInteger();
     for (std::int32_t i = 0; i < count; ++i) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/TSimpleMgr.h"
+#include "geometry/CLoopVertices.h"
 #include "xml/tree/CXMLBufferedReader.h"
 
 #include <zel/CZelPoint.h>
@@ -33,7 +33,7 @@ public:
     double readDouble();
     void readPoint(double (&xyz)[3]);
     /// Appends the vertices of one loop.
-    void readLoop(TSimpleMgr<CZelVertex>& vertices);
+    void readLoop(CVertexMgr& vertices);
     /// Fills an empty polygon.
     void readPolygon(CPolygon& polygon);
 

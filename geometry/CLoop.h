@@ -11,16 +11,19 @@ namespace OvZel {
 class CLoop : public TZelFrontierObjLinkRef<IZelPolygon::IZelHole> {
 public:
     explicit CLoop(IZelObjectLinkRef* owner) : TZelFrontierObjLinkRef(owner) {}
-    ~CLoop() override { getBlock()->resetPtr(); }
+    ~CLoop() override
+    {
+        vertices().loseOwner();
+        getBlock()->resetPtr();
+    }
 
-    const TZelObjectMgr<CZelVertex>* getVertices() const override { return &mVertices.manager(); }
-    TZelObjectMgr<CZelVertex>* getVertices() override { return &mVertices.manager(); }
+    const TZelObjectMgr<CZelVertex>* getVertices() const override { return &vertices().manager(); }
+    TZelObjectMgr<CZelVertex>* getVertices() override { return &vertices().manager(); }
 
-    CLoopVertices& vertices() { return mVertices; }
-    const CLoopVertices& vertices() const { return mVertices; }
+    CLoopVertices vertices() const { return {mVertices, this, 0}; }
 
 private:
-    CLoopVertices mVertices{this, 0};
+    mutable CLoopVertices::CSlot mVertices;
 };
 
 } // namespace OvZel

@@ -1,47 +1,46 @@
 #include "geometry/CLoopVertices.h"
 
 #include <algorithm>
-#include <new>
 
 namespace OvZel {
 
 std::span<const CZelVertex> CLoopVertices::records() const
 {
-    if (const TSimpleMgr<CZelVertex>* manager = mManager.get())
-        return {manager->data(), static_cast<std::size_t>(manager->size())};
-    return {mRecords.get(), static_cast<std::size_t>(mCount)};
+    const CVertexMgr* manager = mSlot.get();
+    if (manager == nullptr)
+        return {};
+    return {manager->data(), static_cast<std::size_t>(manager->size())};
 }
 
-bool CLoopVertices::assign(std::span<const CZelVertex> records)
+bool CLoopVertices::assign(std::span<const CZelVertex> records) const
 {
     clear();
+    if (records.empty())
+        return true;
     const auto count = static_cast<std::int32_t>(records.size());
-    if (TSimpleMgr<CZelVertex>* manager = mManager.get())
-        return manager->append(records.data(), count);
-    mRecords.reset(records.empty() ? nullptr : new (std::nothrow) CZelVertex[records.size()]);
-    if (!mRecords)
-        return records.empty();
-    std::copy(records.begin(), records.end(), mRecords.get());
-    mCount = count;
-    return true;
+    CVertexMgr& manager = mSlot ? *mSlot.get() : make(count);
+    return manager.append(records.data(), count);
 }
 
-void CLoopVertices::clear()
+void CLoopVertices::clear() const
 {
-    mCount = 0;
-    if (TSimpleMgr<CZelVertex>* manager = mManager.get())
+    if (CVertexMgr* manager = mSlot.get())
         manager->removeAllObjects();
 }
 
-TSimpleMgr<CZelVertex>& CLoopVertices::makeManager() const
+void CLoopVertices::loseOwner() const
 {
-    TZelComPtr<TSimpleMgr<CZelVertex>> manager(new TSimpleMgr<CZelVertex>(mOwner, mCapacity));
-    if (!manager->append(mRecords.get(), mCount))
-        throw std::bad_alloc();
-    mManager = std::move(manager);
-    mRecords.reset();
-    mCount = 0;
-    return *mManager;
+    if (CVertexMgr* manager = mSlot.get())
+        manager->loseOwner();
+}
+
+CVertexMgr& CLoopVertices::make(std::int32_t count) const
+{
+    // A link has operations that change nothing, and the holder of a loop that is only looked at
+    // is no less its owner.
+    auto* owner = const_cast<IZelObjectLink*>(mOwner);
+    mSlot = CSlot(new CVertexMgr(owner, std::max(mCapacity, count)));
+    return *mSlot.get();
 }
 
 } // namespace OvZel

@@ -2,44 +2,43 @@
 
 #include "core/TSimpleMgr.h"
 #include "core/TZelComPtr.h"
+#include "geometry/CVertexMgrBase.h"
 
-#include <zel/CZelVertex.h>
-
-#include <memory>
 #include <span>
 
 namespace OvZel {
 
-/// The vertices of one loop.
-///
-/// A mesh has a million loops, and few of them are ever looked at. The records lie in a plain array
-/// until somebody asks for the manager, which then takes them over for good.
+using CVertexMgr = TSimpleMgr<CZelVertex, CVertexMgrBase>;
+
+/// A view on the vertices of one loop, whose manager is made at the first vertex or when somebody
+/// asks for it. Lives no longer than the object that holds the loop.
 class CLoopVertices {
 public:
+    using CSlot = TZelComPtr<CVertexMgr>;
+
     /// The owner is the link of the object that holds the loop. The capacity is that of a new
     /// manager.
-    CLoopVertices(IZelObjectLink* owner, std::int32_t capacity) : mOwner(owner), mCapacity(capacity)
+    CLoopVertices(CSlot& slot, const IZelObjectLink* owner, std::int32_t capacity)
+        : mSlot(slot), mOwner(owner), mCapacity(capacity)
     {
     }
-    CLoopVertices(const CLoopVertices&) = delete;
-    CLoopVertices& operator=(const CLoopVertices&) = delete;
 
-    TSimpleMgr<CZelVertex>& manager() const { return mManager ? *mManager.get() : makeManager(); }
+    CVertexMgr& manager() const { return mSlot ? *mSlot.get() : make(0); }
     /// Good until the loop changes.
     std::span<const CZelVertex> records() const;
     /// Replaces the records; false when memory runs out, with no record left.
-    bool assign(std::span<const CZelVertex> records);
+    bool assign(std::span<const CZelVertex> records) const;
     /// Keeps the memory.
-    void clear();
+    void clear() const;
+    /// For the destructor of the holder.
+    void loseOwner() const;
 
 private:
-    TSimpleMgr<CZelVertex>& makeManager() const;
+    CVertexMgr& make(std::int32_t count) const;
 
-    IZelObjectLink* mOwner;
+    CSlot& mSlot;
+    const IZelObjectLink* mOwner;
     std::int32_t mCapacity;
-    mutable std::int32_t mCount = 0;
-    mutable std::unique_ptr<CZelVertex[]> mRecords;
-    mutable TZelComPtr<TSimpleMgr<CZelVertex>> mManager;
 };
 
 } // namespace OvZel

@@ -23,7 +23,8 @@ using CIndices = std::vector<std::int32_t>;
 TEST(LoopVertices, AssignReplacesWithAndWithoutManager)
 {
     for (const bool hasManager : {false, true}) {
-        CLoopVertices loop(nullptr, 0);
+        CLoopVertices::CSlot slot;
+        const CLoopVertices loop(slot, nullptr, 0);
         if (hasManager)
             loop.manager();
         EXPECT_EQ(indices(loop), CIndices{});
@@ -40,9 +41,10 @@ TEST(LoopVertices, AssignReplacesWithAndWithoutManager)
 
 TEST(LoopVertices, ManagerTakesTheRecordsOver)
 {
-    CLoopVertices loop(nullptr, 0);
+    CLoopVertices::CSlot slot;
+    const CLoopVertices loop(slot, nullptr, 0);
     EXPECT_TRUE(loop.assign(kThree));
-    TSimpleMgr<CZelVertex>& manager = loop.manager();
+    CVertexMgr& manager = loop.manager();
     EXPECT_EQ(&loop.manager(), &manager);
     ASSERT_EQ(manager.size(), 3);
     EXPECT_EQ(manager.data()[2].pointIndex, 3);

@@ -1,5 +1,7 @@
 #include "geometry/CPolygon.h"
 
+#include "geometry/CPolygonView.h"
+
 #include <new>
 
 namespace OvZel {
@@ -7,7 +9,7 @@ namespace OvZel {
 namespace {
 
 /// Works with the managers of any implementation.
-bool appendRecords(TSimpleMgr<CZelVertex>& to, TZelObjectMgr<CZelVertex>* from)
+bool appendRecords(CVertexMgr& to, TZelObjectMgr<CZelVertex>* from)
 {
     const std::int32_t count = from != nullptr ? from->getNbObjects() : 0;
     for (std::int32_t i = 0; i < count; ++i) {
@@ -21,6 +23,12 @@ bool appendRecords(TSimpleMgr<CZelVertex>& to, TZelObjectMgr<CZelVertex>* from)
 }
 
 } // namespace
+
+CPolygon::~CPolygon()
+{
+    vertices().loseOwner();
+    resetBlock();
+}
 
 bool CPolygon::copy(IZelPolygon* other)
 {
@@ -42,11 +50,14 @@ bool CPolygon::copy(IZelPolygon* other)
 
 bool CPolygon::copyFrom(const CPolygon& other)
 {
-    if (&other == this)
-        return true;
+    return &other == this || copyFrom(CPolygonView(other));
+}
+
+bool CPolygon::copyFrom(const CPolygonView& other)
+{
     clear();
-    mSmooth = other.mSmooth;
-    mMaterial = other.mMaterial;
+    mSmooth = other.isSmooth();
+    mMaterial = other.getMaterial();
     try {
         return copyLoops(other);
     } catch (const std::bad_alloc&) {
@@ -54,16 +65,16 @@ bool CPolygon::copyFrom(const CPolygon& other)
     }
 }
 
-bool CPolygon::copyLoops(const CPolygon& other)
+bool CPolygon::copyLoops(const CPolygonView& other)
 {
-    if (!mVertices.assign(other.mVertices.records()))
+    if (!vertices().assign(other.loop(0)))
         return false;
-    const std::int32_t count = other.nbHoles();
+    const std::int32_t count = other.nbLoops() - 1;
     if (count > 0 && !holes().reserve(count))
         return false;
     for (std::int32_t i = 0; i < count; ++i) {
         CLoop* loop = holes().append();
-        if (loop == nullptr || !loop->vertices().assign(other.hole(i).vertices().records()))
+        if (loop == nullptr || !loop->vertices().assign(other.loop(i + 1)))
             return false;
     }
     return true;
@@ -71,7 +82,7 @@ bool CPolygon::copyLoops(const CPolygon& other)
 
 bool CPolygon::copyLoops(IZelPolygon& other)
 {
-    if (!appendRecords(mVertices.manager(), other.getVertices()))
+    if (!appendRecords(vertices().manager(), other.getVertices()))
         return false;
     TZelObjectMgr<IZelHole>* from = other.getHoles();
     const std::int32_t count = from != nullptr ? from->getNbObjects() : 0;
@@ -88,7 +99,7 @@ void CPolygon::clear()
 {
     mSmooth = false;
     mMaterial = 0;
-    mVertices.clear();
+    vertices().clear();
     while (nbHoles() > 0)
         mHoles->removeObject(-1);
 }

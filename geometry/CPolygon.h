@@ -1,9 +1,10 @@
 #pragma once
 
 #include "core/TObject2Mgr.h"
-#include "core/TZelFrontierObjLinkRef.h"
 #include "geometry/CLoop.h"
 #include "geometry/CLoopVertices.h"
+#include "geometry/CPolygonBase.h"
+#include "geometry/CPolygonMgr.h"
 
 #include <zel/IZelPolygon.h>
 
@@ -11,40 +12,41 @@ namespace OvZel {
 
 /// A polygon of a mesh. The managers of its loops are made when somebody asks for them; kept by a
 /// client they outlive the polygon.
-class CPolygon : public TZelFrontierObjLinkRef<IZelPolygon> {
+class CPolygon : public CPolygonBase {
 public:
     using CHoles = TObject2Mgr<CLoop, IZelPolygon::IZelHole>;
 
-    explicit CPolygon(IZelObjectLinkRef* owner) : TZelFrontierObjLinkRef(owner) {}
-    ~CPolygon() override { getBlock()->resetPtr(); }
+    explicit CPolygon(IZelObjectLinkRef* owner) : CPolygonBase(owner) {}
+    ~CPolygon() override;
 
     bool copy(IZelPolygon* other) override;
     bool isSmooth() const override { return mSmooth; }
     void setSmooth(bool smooth) override { mSmooth = smooth; }
     std::int32_t getMaterial() const override { return mMaterial; }
     void setMaterial(std::int32_t material) override { mMaterial = material; }
-    TZelObjectMgr<CZelVertex>* getVertices() override { return &mVertices.manager(); }
+    TZelObjectMgr<CZelVertex>* getVertices() override { return &vertices().manager(); }
     TZelObjectMgr<IZelHole>* getHoles() override { return &holes(); }
 
     /// As copy, loop by loop in one piece.
     bool copyFrom(const CPolygon& other);
+    /// The other one is not this polygon.
+    bool copyFrom(const CPolygonView& other);
     /// Back to the state of a new polygon, with the memory kept.
     void clear();
 
-    CLoopVertices& vertices() { return mVertices; }
-    const CLoopVertices& vertices() const { return mVertices; }
+    CLoopVertices vertices() const { return {mVertices, this, 3}; }
     std::int32_t nbHoles() const { return mHoles ? mHoles.get()->size() : 0; }
     /// The index is good.
     const CLoop& hole(std::int32_t index) const { return *mHoles.get()->at(index); }
     CHoles& holes();
 
 private:
-    bool copyLoops(const CPolygon& other);
+    bool copyLoops(const CPolygonView& other);
     bool copyLoops(IZelPolygon& other);
 
     bool mSmooth = false;
     std::int32_t mMaterial = 0;
-    CLoopVertices mVertices{this, 3};
+    mutable CLoopVertices::CSlot mVertices;
     TZelComPtr<CHoles> mHoles;
 };
 

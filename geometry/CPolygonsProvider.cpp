@@ -29,18 +29,17 @@ void writeLoop(CFastWriter& out, std::span<const CZelVertex> vertices)
     }
 }
 
-void writePolygon(CFastWriter& out, const CPolygon& polygon, CZelMgrRef& mgrRef)
+void writePolygon(CFastWriter& out, const CPolygonView& polygon, CZelMgrRef& mgrRef)
 {
-    const std::int32_t holes = polygon.nbHoles();
+    const std::int32_t holes = polygon.nbLoops() - 1;
     if (holes > 0 && polygon.isSmooth())
         mgrRef.warning("Holed polygon smoothed (smoothing will be loss)");
     out.writeText(holes > 0 ? "h\t" : polygon.isSmooth() ? "o\t" : "p\t");
     out.writeInteger(polygon.getMaterial());
     if (holes > 0)
         out.writeInteger(holes + 1);
-    writeLoop(out, polygon.vertices().records());
-    for (std::int32_t i = 0; i < polygon.nbHoles(); ++i)
-        writeLoop(out, polygon.hole(i).vertices().records());
+    for (std::int32_t i = 0; i < polygon.nbLoops(); ++i)
+        writeLoop(out, polygon.loop(i));
     out.writeText("\n");
 }
 
@@ -55,14 +54,16 @@ void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std
     CPacer pacer(host, CPacer::kSpan, count);
     std::int32_t i = 0;
     for (; i < count; ++i) {
-        const CPolygon* polygon = own != nullptr ? own->polygonAt(i) : nullptr;
-        if (polygon == nullptr) {
+        std::optional<CPolygonView> polygon;
+        if (own != nullptr)
+            polygon = own->polygonAt(i);
+        if (!polygon) {
+            scratch->clear();
             if (!storage.getPolygon(scratch, i))
                 throw std::runtime_error("CPolygonsProvider::Write2 - External storage cancel IO");
-            polygon = scratch;
+            polygon.emplace(*scratch);
         }
         writePolygon(out, *polygon, mgrRef);
-        scratch->clear();
         pacer.step(i);
     }
     pacer.step(i);

@@ -1,6 +1,7 @@
 #include "geometry/CZELGeoReader.h"
 
 #include "geometry/CFastReader.h"
+#include "geometry/CPolygonView.h"
 
 #include <algorithm>
 
@@ -31,7 +32,8 @@ CZELGeoReader::~CZELGeoReader()
 {
     if (mPoints->size() < mPointsRoom)
         mPoints->releaseSpareRoom();
-    if (mPolygons->size() < mPolygonsRoom)
+    // These grow by doubling, and without their spare room they are half as large.
+    if (mHasPolygons)
         mPolygons->releaseSpareRoom();
 }
 
@@ -47,7 +49,8 @@ bool CZELGeoReader::setPoint(const CZelPoint* point, std::int32_t)
 
 void CZELGeoReader::setNbPolygons(std::int32_t count)
 {
-    mPolygonsRoom = replaceRecords(*mPolygons, count);
+    replaceRecords(*mPolygons, count);
+    mHasPolygons = true;
 }
 
 bool CZELGeoReader::setPolygon(IZelPolygon* polygon, std::int32_t)
@@ -58,8 +61,7 @@ bool CZELGeoReader::setPolygon(IZelPolygon* polygon, std::int32_t)
 
 bool CZELGeoReader::append(const CPolygon& polygon)
 {
-    CPolygon* record = mPolygons.get()->append();
-    return (record != nullptr && record->copyFrom(polygon)) || refuse(kNoPolygon);
+    return mPolygons.get()->appendFlat(CPolygonView(polygon)) || refuse(kNoPolygon);
 }
 
 bool CZELGeoReader::refuse(const char* text) const

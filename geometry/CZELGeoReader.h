@@ -43,7 +43,7 @@ private:
     bool refuse(const char* text) const;
 
     std::int32_t mPointsRoom = 0;
-    std::int32_t mPolygonsRoom = 0;
+    bool mHasPolygons = false;
     TZelComPtr<IZelMgrRef> mMgrRef;
     TZelComPtr<CPoints> mPoints;
     TZelComPtr<CPolygons> mPolygons;

@@ -16,8 +16,10 @@ class CFullPolygons : public CZELGeoReader::CPolygons {
 public:
     using TObject2Mgr::TObject2Mgr;
 
+    bool appendFlat(const CPolygonView&) override { return false; }
+
 protected:
-    TZelStrongPtr<CPolygon> make() override { throw std::bad_alloc(); }
+    CHeldPolygon make() override { throw std::bad_alloc(); }
 };
 
 } // namespace

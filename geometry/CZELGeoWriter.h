@@ -4,8 +4,11 @@
 #include "core/TObject2Mgr.h"
 #include "core/TSimpleMgr.h"
 #include "geometry/CPolygon.h"
+#include "geometry/CPolygonView.h"
 
 #include <zel/IZelExtStorageWriter.h>
+
+#include <optional>
 
 namespace OvZel {
 
@@ -28,9 +31,12 @@ public:
     {
         return index < mPoints.get()->size() ? mPoints.get()->data() + index : nullptr;
     }
-    const CPolygon* polygonAt(std::int32_t index) const
+    /// Makes no object; nothing for an index that is too large.
+    std::optional<CPolygonView> polygonAt(std::int32_t index) const
     {
-        return index < mPolygons.get()->size() ? mPolygons.get()->at(index) : nullptr;
+        if (index >= mPolygons.get()->size())
+            return std::nullopt;
+        return CPolygonView(*mPolygons.get(), index);
     }
 
 private:

@@ -1,0 +1,58 @@
+#include "geometry/CPolygonBase.h"
+
+#include "geometry/CPolygon.h"
+#include "tests/support/CTestBlockHost.h"
+
+#include <gtest/gtest.h>
+
+using namespace OvZel;
+using namespace ZelTest;
+
+namespace {
+
+using CMesh = TZelComPtr<CPolygonMgr>;
+
+} // namespace
+
+TEST(PolygonBase, LinksToTheListAndTheDocument)
+{
+    CTestBlockHost host;
+    const CMesh mesh(new CPolygonMgr(&host.blockMgrRef()));
+    IZelObjectLink* link = mesh->append()->getObjectLink();
+    EXPECT_EQ(link->getOwnerLink(), mesh->getObjectLink());
+    EXPECT_EQ(link->getMgrRef(), &host.blockMgrRef());
+    EXPECT_EQ(link->getCOMWeakPtr(), nullBlock());
+    EXPECT_EQ(link->getSelfWeakPtr(), link->getSelfWeakPtr());
+}
+
+TEST(PolygonBase, ACountOfTheBlockKeepsAPolygonThatIsRemoved)
+{
+    const CMesh mesh(new CPolygonMgr(nullptr));
+    CPolygon* polygon = mesh->append();
+    polygon->setMaterial(5);
+    IZelSharedPtrBase* block = polygon->getSelfWeakPtr();
+    block->addWeakRef();
+    block->addRef();
+    mesh->removeObject(0);
+    EXPECT_TRUE(CZelSharedPtrObject::from(block)->isAlive());
+    EXPECT_EQ(polygon->getMaterial(), 5);
+    block->release();
+    EXPECT_FALSE(CZelSharedPtrObject::from(block)->isAlive());
+    block->releaseWeakRef();
+}
+
+TEST(PolygonBase, AWeakCountKeepsTheBlockAlone)
+{
+    for (const bool isHeld : {false, true}) {
+        auto polygon = std::make_unique<CPolygon>(nullptr);
+        IZelSharedPtrBase* block = polygon->getSelfWeakPtr();
+        block->addWeakRef();
+        if (isHeld) {
+            polygon->hold();
+            polygon.release()->letGo();
+        }
+        polygon.reset();
+        EXPECT_FALSE(CZelSharedPtrObject::from(block)->isAlive());
+        block->releaseWeakRef();
+    }
+}
