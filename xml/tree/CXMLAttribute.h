@@ -19,6 +19,7 @@ public:
     void SetValue(const char* value) override;
 
     const SXMLName* Name() const { return mName; }
+    const char* Value() const { return mValue; }
     CXMLAttribute* Next() const { return mNext; }
     void Release(CXMLStore& store);
 

@@ -32,44 +32,64 @@ void CXMLElement::CheckChild(EKind kind) const
         throw std::runtime_error("The root of a tree cannot hold a text or a CDATA section");
 }
 
-void CXMLElement::Insert(CXMLNode* child, CXMLNode* before)
+void CXMLElement::Link(CXMLNode* child, CXMLNode* before)
 {
+    CXMLNode* first = FirstChild();
     child->mParent = this;
     child->mNext = before;
-    if (!mFirst) {
-        child->mPrevious = child;
-        mFirst = child;
-        return;
-    }
-    CXMLNode* neighbour = before ? before : mFirst; // whose previous is the node in front
-    child->mPrevious = neighbour->mPrevious;
-    if (before == mFirst)
-        mFirst = child;
+    CXMLNode* neighbour = before ? before : first; // whose previous is the node in front
+    child->mPrevious = neighbour ? neighbour->mPrevious : child;
+    if (before == first)
+        HoldNode(child);
     else
         child->mPrevious->mNext = child;
-    neighbour->mPrevious = child;
+    if (neighbour)
+        neighbour->mPrevious = child;
+}
+
+void CXMLElement::Insert(CXMLNode* child, CXMLNode* before)
+{
+    Link(child, before);
+    if (child->Kind() == EKind::Text || child->Kind() == EKind::CData)
+        mContent |= kMayHoldText;
 }
 
 void CXMLElement::Unlink(CXMLNode* child)
 {
     CXMLNode* next = child->mNext;
-    if (child == mFirst)
-        mFirst = next;
+    if (child == FirstNode())
+        HoldNode(next);
     else
         child->mPrevious->mNext = next;
     if (next)
         next->mPrevious = child->mPrevious;
-    else if (mFirst)
-        mFirst->mPrevious = child->mPrevious;
+    else if (CXMLNode* first = FirstNode())
+        first->mPrevious = child->mPrevious;
     child->mParent = nullptr;
     child->mNext = child->mPrevious = nullptr;
 }
 
 CXMLNode* CXMLElement::TakeChildren()
 {
-    CXMLNode* first = mFirst;
-    mFirst = nullptr;
+    CXMLNode* first = FirstNode();
+    if (first)
+        HoldNode(nullptr);
     return first;
+}
+
+void CXMLElement::MakeTextNode()
+{
+    CXMLNode* node = Store().New<CXMLTextNode>(LoneText());
+    HoldNode(nullptr);
+    Append(node);
+}
+
+void CXMLElement::DropLoneText()
+{
+    if (const char* text = LoneText()) {
+        HoldNode(nullptr);
+        Store().FreeText(text);
+    }
 }
 
 bool CXMLElement::IsBelow(const CXMLNode* node) const
@@ -97,7 +117,7 @@ void CXMLElement::InsertChild(XIXMLData* child, XIXMLData* before)
 
 CXMLNode* CXMLElement::FirstOf(EKind kind) const
 {
-    CXMLNode* node = mFirst;
+    CXMLNode* node = kind == EKind::Text ? FirstChild() : FirstNode();
     while (node && node->Kind() != kind)
         node = node->Next();
     return node;
@@ -105,7 +125,7 @@ CXMLNode* CXMLElement::FirstOf(EKind kind) const
 
 XIXMLElement* CXMLElement::GetFirstElement() const
 {
-    return elementFrom(mFirst, nullptr);
+    return elementFrom(FirstNode(), nullptr);
 }
 
 XIXMLElement* CXMLElement::GetNextElement() const
@@ -121,7 +141,7 @@ XIXMLElement* CXMLElement::GetNextSame() const
 XIXMLElement* CXMLElement::FindElement(XCXMLKey key) const
 {
     const SXMLName* name = Store().names.Find(key);
-    return name ? elementFrom(mFirst, name) : nullptr;
+    return name ? elementFrom(FirstNode(), name) : nullptr;
 }
 
 // ---- adding
@@ -130,7 +150,7 @@ CXMLElement* CXMLElement::AppendNamed(const SXMLName* name)
 {
     auto* element = Store().New<CXMLElement>(name);
     Store().nbBad += name->isBadElement();
-    Append(element);
+    Link(element, nullptr);
     return element;
 }
 
@@ -190,63 +210,6 @@ void CXMLElement::SetCData(XIXMLData::IXMLCData* provider)
         AppendCData(provider);
 }
 
-// ---- attributes
-
-CXMLAttribute* CXMLElement::LastAttribute() const
-{
-    CXMLAttribute* attribute = mFirstAttribute;
-    while (attribute && attribute->mNext)
-        attribute = attribute->mNext;
-    return attribute;
-}
-
-CXMLAttribute* CXMLElement::AppendAttribute(CXMLAttribute* last, const SXMLName* name,
-                                            std::string_view value)
-{
-    CXMLStore& store = Store();
-    auto* attribute = store.New<CXMLAttribute>(name, store.NewText(value));
-    store.nbBad += name->isBad;
-    (last ? last->mNext : mFirstAttribute) = attribute;
-    return attribute;
-}
-
-XIXMLAttribute* CXMLElement::AddAttribute(XCXMLKey key, const char* value)
-{
-    if (IsRoot())
-        throw std::runtime_error("The root of a tree has no attributes");
-    if (XIXMLAttribute* present = FindAttribute(key)) {
-        present->SetValue(value);
-        return present;
-    }
-    return AppendAttribute(LastAttribute(), Store().names.Resolve(key), textOrEmpty(value));
-}
-
-XIXMLAttribute* CXMLElement::FindAttribute(XCXMLKey key) const
-{
-    const SXMLName* name = Store().names.Find(key);
-    CXMLAttribute* attribute = name ? mFirstAttribute : nullptr;
-    while (attribute && attribute->mName != name)
-        attribute = attribute->mNext;
-    return attribute;
-}
-
-bool CXMLElement::RemoveAttribute(XCXMLKey key)
-{
-    CXMLStore& store = Store();
-    const SXMLName* name = store.names.Find(key);
-    bool isRemoved = false;
-    for (CXMLAttribute** link = &mFirstAttribute; CXMLAttribute* attribute = *link;) {
-        if (attribute->mName != name) {
-            link = &attribute->mNext;
-            continue;
-        }
-        *link = attribute->mNext;
-        attribute->Release(store);
-        isRemoved = true;
-    }
-    return isRemoved;
-}
-
 // ---- the element itself
 
 XCXMLKey CXMLElement::MakeKey(const char* name) const
@@ -266,24 +229,31 @@ void CXMLElement::SetKey(XCXMLKey key)
 
 const char* CXMLElement::GetText() const
 {
+    if (const char* lone = LoneText())
+        return lone;
     const CXMLNode* text = FirstOf(EKind::Text);
     return text ? text->GetText() : "";
 }
 
 void CXMLElement::SetText(const char* text)
 {
-    if (CXMLNode* node = FirstOf(EKind::Text))
+    const char* lone = LoneText();
+    if (text && *text && (lone || IsEmpty()) && !IsRoot()) {
+        SetLoneText(text); // first, since it may be a part of the old text
+        Store().FreeText(lone ? lone : "");
+    } else if (CXMLNode* node = FirstOf(EKind::Text)) {
         node->SetText(text);
-    else
+    } else {
         AddText(text);
+    }
 }
 
 void CXMLElement::Destroy()
 {
     if (!IsRoot())
         return CXMLNode::Destroy();
-    while (mFirst)
-        mFirst->Destroy();
+    while (CXMLNode* first = FirstNode())
+        first->Destroy();
 }
 
 CXMLNode* CXMLElement::Copy(CXMLStore& store) const
@@ -293,11 +263,14 @@ CXMLNode* CXMLElement::Copy(CXMLStore& store) const
     CXMLAttribute* last = nullptr;
     for (const CXMLAttribute* from = mFirstAttribute; from; from = from->mNext)
         last = copy->AppendAttribute(last, store.names.Resolve(from->GetKey()), from->mValue);
+    if (const char* text = LoneText())
+        copy->SetLoneText(text);
     return copy;
 }
 
 void CXMLElement::Release(CXMLStore& store)
 {
+    DropLoneText();
     while (CXMLAttribute* attribute = mFirstAttribute) {
         mFirstAttribute = attribute->mNext;
         attribute->Release(store);

@@ -3,11 +3,15 @@
 #include "xml/tree/CXMLAttribute.h"
 #include "xml/tree/CXMLNode.h"
 
+#include <cstdint>
 #include <string_view>
 
 namespace OrvaneXML {
 
 /// An element, or the root, which alone has no parent while it can be reached.
+///
+/// A text that is all that an element holds needs no node: it hangs on the element itself until
+/// somebody asks for the children, and becomes a node then.
 class CXMLElement final : public CXMLNode, public XIXMLElement {
 public:
     explicit CXMLElement(const SXMLName* name) : mName(name) {}
@@ -36,7 +40,7 @@ public:
     void SetKey(XCXMLKey key) override;
     XIXMLData* GetFirstText() override { return FirstOf(EKind::Text); }
     const XIXMLData* GetFirstText() const override { return FirstOf(EKind::Text); }
-    XIXMLData* GetFirstNode() const override { return mFirst; }
+    XIXMLData* GetFirstNode() const override { return FirstChild(); }
     XIXMLElement* GetFirstElement() const override;
     XIXMLElement* GetNextElement() const override;
     XIXMLElement* FindElement(XCXMLKey key) const override;
@@ -48,8 +52,27 @@ public:
 
     const SXMLName* Name() const { return mName; }
     bool IsRoot() const { return Store().root == this; }
-    CXMLNode* FirstChild() const { return mFirst; }
-    CXMLNode* LastChild() const { return mFirst ? mFirst->mPrevious : nullptr; }
+    bool IsEmpty() const { return mContent == 0; }
+    /// The text that is all the content and has no node, or null. It is never empty.
+    const char* LoneText() const
+    {
+        return mContent & kIsText ? reinterpret_cast<const char*>(mContent & ~kIsText) : nullptr;
+    }
+    /// The first of the nodes that are there, which a lone text is not.
+    CXMLNode* FirstNode() const
+    {
+        return mContent & kIsText ? nullptr : reinterpret_cast<CXMLNode*>(mContent & ~kMayHoldText);
+    }
+    /// False only if no text and no section is among the nodes.
+    bool MayHoldText() const { return !(mContent & kIsText) && mContent & kMayHoldText; }
+    /// The first child; makes the node of a lone text.
+    CXMLNode* FirstChild() const
+    {
+        if (mContent & kIsText)
+            const_cast<CXMLElement*>(this)->MakeTextNode(); // nobody can see the difference
+        return FirstNode();
+    }
+    CXMLNode* LastChild() const { return FirstChild() ? FirstChild()->mPrevious : nullptr; }
     CXMLNode* FirstOf(EKind kind) const;
     CXMLAttribute* FirstAttribute() const { return mFirstAttribute; }
 
@@ -70,6 +93,9 @@ public:
     CXMLAttribute* AppendAttribute(CXMLAttribute* last, const SXMLName* name,
                                    std::string_view value);
     CXMLNode* InsertText(std::string_view text, CXMLNode* before);
+    /// The element has no nodes and is not the root; the text is not empty.
+    void SetLoneText(std::string_view text) { HoldText(Store().NewText(text)); }
+    void DropLoneText();
     CXMLNode* AppendCData(XIXMLData::IXMLCData* provider);
 
 private:
@@ -77,8 +103,20 @@ private:
     CXMLAttribute* LastAttribute() const;
     bool IsBelow(const CXMLNode* node) const;
 
+    void HoldNode(CXMLNode* first)
+    {
+        mContent = first ? reinterpret_cast<std::uintptr_t>(first) | (mContent & kMayHoldText) : 0;
+    }
+    void HoldText(const char* text) { mContent = reinterpret_cast<std::uintptr_t>(text) | kIsText; }
+    void MakeTextNode();
+    void Link(CXMLNode* child, CXMLNode* before);
+
+    // Bits that no pointer has: nodes are aligned to 8 and texts to 2.
+    static constexpr std::uintptr_t kIsText = 1;
+    static constexpr std::uintptr_t kMayHoldText = 2; // beside nodes only
+
     const SXMLName* mName;
-    CXMLNode* mFirst = nullptr;
+    std::uintptr_t mContent = 0; // the first child or the lone text
     CXMLAttribute* mFirstAttribute = nullptr;
 };
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 
 namespace OrvaneXML {
@@ -411,6 +412,58 @@ TEST_F(XmlElement, AttributeSlotsStandInTheirOrder)
     EXPECT_STREQ(x->GetValue(), "77");
     callSlot<void>(x, 5, "8");
     EXPECT_STREQ(x->GetValue(), "8");
+}
+
+TEST(XmlLoneText, HasANodeOnceSomebodyAsks)
+{
+    std::string text = "<a>";
+    for (int i = 0; i < 6000; ++i)
+        text += "<b>12.500000</b>";
+    const CTreePtr tree = readTree(text + "</a>");
+    XIXMLElement* top = tree->GetRoot()->GetFirstElement();
+    const std::size_t bytes = tree->GetPoolBytes();
+    for (XIXMLElement* b = top->GetFirstElement(); b; b = b->GetNextElement())
+        EXPECT_STREQ(b->GetNode()->GetText(), "12.500000");
+    EXPECT_EQ(tree->GetPoolBytes(), bytes);
+    for (XIXMLElement* b = top->GetFirstElement(); b; b = b->GetNextElement()) {
+        const char* before = b->GetNode()->GetText();
+        XIXMLData* node = b->GetFirstText();
+        EXPECT_EQ(node->GetText(), before);
+        EXPECT_EQ(node->GetParent(), b);
+        EXPECT_EQ(b->GetFirstNode(), node);
+    }
+    EXPECT_GT(tree->GetPoolBytes(), bytes);
+}
+
+TEST(XmlLoneText, TakesPartInEveryChange)
+{
+    struct {
+        void (*change)(XIXMLElement*);
+        const char* written;
+    } cases[] = {
+        {[](XIXMLElement* b) { b->GetNode()->SetText("y"); }, "<a><b>y</b></a>"},
+        {[](XIXMLElement* b) { b->GetNode()->SetText(b->GetNode()->GetText() + 1); },
+         "<a><b>z</b></a>"},
+        {[](XIXMLElement* b) { b->GetNode()->SetText(""); }, "<a><b/></a>"},
+        {[](XIXMLElement* b) { b->GetNode()->Print("%d", 7); }, "<a><b>7</b></a>"},
+        {[](XIXMLElement* b) { b->GetFirstText()->Destroy(); }, "<a><b/></a>"},
+        {[](XIXMLElement* b) { b->AddText("!"); }, "<a><b>xz!</b></a>"},
+        {[](XIXMLElement* b) { b->AddComment("c"); }, "<a><b>xz<!--c--></b></a>"},
+        {[](XIXMLElement* b) { b->InsertChild(b->AddComment("c"), b->GetFirstText()); },
+         "<a><b><!--c-->xz</b></a>"},
+        {[](XIXMLElement* b) { b->SetCData(new CBytes("1")); }, "<a><b>xz<![CDATA[1]]></b></a>"},
+        {[](XIXMLElement* b) { b->GetNode()->CloneInto(b); }, "<a><b>xz<b>xz</b></b></a>"},
+        {[](XIXMLElement* b) { b->Destroy(); }, "<a/>"},
+    };
+    for (const auto& item : cases) {
+        const CTreePtr tree = readTree("<a><b>xz</b></a>");
+        item.change(tree->GetRoot()->GetFirstElement()->GetFirstElement());
+        std::string lines = written(*tree);
+        lines.erase(std::remove_if(lines.begin(), lines.end(),
+                                   [](char c) { return c == '\n' || c == '\t'; }),
+                    lines.end());
+        EXPECT_EQ(lines, item.written);
+    }
 }
 
 } // namespace OrvaneXML

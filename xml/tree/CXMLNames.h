@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -12,15 +13,44 @@ namespace OrvaneXML {
 class CXMLNodePool;
 struct CXMLStore;
 
+template <class TWord>
+bool hasSameEnds(const char* a, const char* b, std::size_t nb)
+{
+    TWord words[4];
+    std::memcpy(&words[0], a, sizeof(TWord));
+    std::memcpy(&words[1], b, sizeof(TWord));
+    std::memcpy(&words[2], a + nb - sizeof(TWord), sizeof(TWord));
+    std::memcpy(&words[3], b + nb - sizeof(TWord), sizeof(TWord));
+    return words[0] == words[1] && words[2] == words[3];
+}
+
+/// Two overlapping words compare short names faster than a call does.
+inline bool isSame(const char* a, const char* b, std::size_t nb)
+{
+    if (nb >= 8 && nb <= 16)
+        return hasSameEnds<std::uint64_t>(a, b, nb);
+    if (nb >= 4 && nb < 8)
+        return hasSameEnds<std::uint32_t>(a, b, nb);
+    if (nb == 1)
+        return *a == *b;
+    return std::memcmp(a, b, nb) == 0;
+}
+
 /// The header of a name record. The NUL-terminated text follows it.
 struct SXMLName {
     CXMLStore* store;
     std::uint32_t hash;
     std::uint32_t length : 31;
     std::uint32_t isBad : 1; ///< no name that XML can hold
+    /// The name that was asked for behind this one the last time. Documents repeat themselves.
+    mutable const SXMLName* follower = nullptr;
 
     const char* text() const { return reinterpret_cast<const char*>(this + 1); }
     std::string_view view() const { return {text(), length}; }
+    bool Is(std::string_view name) const
+    {
+        return length == name.size() && isSame(text(), name.data(), length);
+    }
     /// With these beginnings a tag would read back as something else.
     bool isBadElement() const { return isBad || *text() == '!' || *text() == '?'; }
 };
@@ -30,7 +60,11 @@ class CXMLNames {
 public:
     explicit CXMLNames(CXMLStore& store) : mStore(store) {}
 
-    const SXMLName* Intern(std::string_view name);
+    const SXMLName* Intern(std::string_view name)
+    {
+        const SXMLName* guess = mLast ? mLast->follower : nullptr;
+        return mLast = guess && guess->Is(name) ? guess : Lookup(name);
+    }
     /// The record of a key's name in this tree, made if there is none.
     const SXMLName* Resolve(XCXMLKey key);
     /// The same, or null if this tree has no such name.
@@ -46,11 +80,13 @@ private:
     std::uint32_t HashOf(std::string_view name) const;
     std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
     const SXMLName* Add(std::string_view name, std::uint32_t hash);
+    const SXMLName* Lookup(std::string_view name);
     void Grow();
 
     CXMLStore& mStore;
     std::vector<const SXMLName*> mTable; // open addressing, a power of two
     std::size_t mNbNames = 0;
+    const SXMLName* mLast = nullptr;
 };
 
 } // namespace OrvaneXML

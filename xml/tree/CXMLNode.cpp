@@ -60,7 +60,7 @@ CXMLStore& CXMLNode::Store() const
 
 bool CXMLNode::IsFirst() const
 {
-    return mParent && mParent->FirstChild() == this;
+    return mParent && mParent->FirstNode() == this;
 }
 
 void CXMLNode::Destroy()
@@ -109,16 +109,16 @@ XIXMLData* CXMLNode::CloneInto(XIXMLElement* parent) const
 void CXMLNode::CopyChildrenTo(CXMLNode* copy, CXMLStore& store) const
 {
     const CXMLElement* top = asElement(this);
-    const CXMLNode* node = top ? top->FirstChild() : nullptr;
+    const CXMLNode* node = top ? top->FirstNode() : nullptr;
     auto* parent = static_cast<CXMLElement*>(top ? copy : nullptr);
     while (node) {
         CXMLNode* child = node->Copy(store);
         if (child)
             parent->Append(child);
         const CXMLElement* element = asElement(node);
-        if (element && element->FirstChild()) {
+        if (element && element->FirstNode()) {
             parent = static_cast<CXMLElement*>(child);
-            node = element->FirstChild();
+            node = element->FirstNode();
             continue;
         }
         while (!node->mNext) {

@@ -8,8 +8,7 @@ namespace OrvaneXML {
 
 namespace {
 
-constexpr std::size_t kMaxBlock = 64 * 1024;
-constexpr std::size_t kMaxFine = 256;        // up to here a class every 8 bytes
+constexpr std::size_t kMaxBlock = 1024 * 1024;
 constexpr std::size_t kMaxPiece = 16 * 1024; // up to here four classes to a doubling
 
 } // namespace
@@ -64,7 +63,7 @@ void CXMLNodePool::UnlinkBlock(SBlock* block)
 void CXMLNodePool::NextBlock(std::size_t needed)
 {
     // What the old block has left becomes a piece of the largest class that it can serve.
-    for (std::size_t left = static_cast<std::size_t>(mEnd - mNext); left >= 8;) {
+    for (std::size_t left = Left() & ~std::size_t{7}; left >= 8;) {
         SClass piece = ClassOf(left);
         if (piece.size > left)
             piece = ClassOf(std::min(left, kMaxFine));
@@ -78,25 +77,43 @@ void CXMLNodePool::NextBlock(std::size_t needed)
     mBlockSize = std::min(mBlockSize * 2, kMaxBlock);
 }
 
-void* CXMLNodePool::AllocateLarge(std::size_t size)
-{
-    return NewBlock(size) + 1;
-}
-
-void* CXMLNodePool::Allocate(std::size_t size)
+void* CXMLNodePool::AllocateAnywhere(std::size_t size)
 {
     if (size > kMaxPiece)
-        return AllocateLarge(size);
+        return NewBlock(size) + 1;
     const SClass piece = ClassOf(size);
     if (SFree* free = mFree[piece.index]) {
         mFree[piece.index] = free->next;
         return free;
     }
-    if (static_cast<std::size_t>(mEnd - mNext) < piece.size)
+    if (Left() < piece.size)
         NextBlock(piece.size);
     void* result = mNext;
     mNext += piece.size;
     return result;
+}
+
+char* CXMLNodePool::AllocateTextAnywhere(std::size_t size)
+{
+    if (size > kMaxFine)
+        return static_cast<char*>(Allocate(size));
+    const std::size_t room = TextRoom(size);
+    if (char* free = mFreeTexts[room / 2]) {
+        std::memcpy(&mFreeTexts[room / 2], free, sizeof(char*));
+        return free;
+    }
+    if (Left() < room)
+        NextBlock(room);
+    return mEnd -= room;
+}
+
+void CXMLNodePool::FreeText(char* text, std::size_t size)
+{
+    if (size > kMaxFine)
+        return Free(text, size);
+    char*& list = mFreeTexts[TextRoom(size) / 2];
+    std::memcpy(text, &list, sizeof(char*));
+    list = text;
 }
 
 void CXMLNodePool::Free(void* piece, std::size_t size)

@@ -58,4 +58,34 @@ TEST(XmlNodePool, StartsSmallAndGivesLargePiecesBack)
     EXPECT_EQ(pool.GetBytes(), 512u);
 }
 
+TEST(XmlNodePool, TextsLieBesideNodesAndServeAgain)
+{
+    CXMLNodePool pool;
+    std::vector<char*> texts;
+    for (std::size_t size = 1; size < 600; ++size) {
+        void* node = pool.Allocate(24);
+        ASSERT_EQ(reinterpret_cast<std::uintptr_t>(node) % 8, 0u);
+        std::memset(node, 0xFF, 24);
+        texts.push_back(pool.AllocateText(size));
+        ASSERT_EQ(reinterpret_cast<std::uintptr_t>(texts.back()) % 2, 0u);
+        std::memset(texts.back(), static_cast<int>(size & 0x7F), size);
+    }
+    for (std::size_t size = 1; size < 600; ++size)
+        for (std::size_t at = 0; at < size; ++at)
+            ASSERT_EQ(texts[size - 1][at], static_cast<char>(size & 0x7F));
+    const std::size_t bytes = pool.GetBytes();
+    for (std::size_t size = 1; size < 600; ++size)
+        pool.FreeText(texts[size - 1], size);
+    for (std::size_t size = 1; size < 600; ++size)
+        pool.AllocateText(size);
+    EXPECT_EQ(pool.GetBytes(), bytes);
+}
+
+TEST(XmlNodePool, TextsLieClose)
+{
+    CXMLNodePool pool;
+    const char* first = pool.AllocateText(9);
+    EXPECT_EQ(first - pool.AllocateText(9), 10);
+}
+
 } // namespace OrvaneXML

@@ -35,12 +35,12 @@ struct CXMLStore {
         return new (pool.Allocate(sizeof(T))) T(std::forward<TArguments>(arguments)...);
     }
 
-    /// Texts are NUL-terminated. The empty one takes no memory.
+    /// Texts are NUL-terminated. The empty one takes no memory; all others are aligned to 2.
     const char* NewText(std::string_view text)
     {
         if (text.empty())
             return "";
-        auto* copy = static_cast<char*>(pool.Allocate(text.size() + 1));
+        char* copy = pool.AllocateText(text.size() + 1);
         std::memcpy(copy, text.data(), text.size());
         copy[text.size()] = 0;
         return copy;
@@ -48,7 +48,7 @@ struct CXMLStore {
     void FreeText(const char* text)
     {
         if (*text)
-            pool.Free(const_cast<char*>(text), std::strlen(text) + 1);
+            pool.FreeText(const_cast<char*>(text), std::strlen(text) + 1);
     }
     void ReplaceText(const char*& text, std::string_view with)
     {

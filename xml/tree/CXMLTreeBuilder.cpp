@@ -75,14 +75,31 @@ void CXMLTreeBuilder::DropWhite()
         mWhite.back()->Destroy();
 }
 
+/// Most texts are all that their element holds and go there at once.
 void CXMLTreeBuilder::AddText()
 {
+    if (!mScanner.IsWhite() && mText.empty() && mCurrent->IsEmpty()) {
+        mCurrent->SetLoneText(mScanner.Text());
+        mIsStored = true;
+        return;
+    }
     mText += mScanner.Text();
     mIsWhite = mIsWhite && mScanner.IsWhite();
 }
 
+/// A section follows, which may leave no gap between this text and the next.
+void CXMLTreeBuilder::TakeTextBack()
+{
+    if (!mIsStored)
+        return;
+    mText = mCurrent->LoneText();
+    mCurrent->DropLoneText();
+    mIsWhite = mIsStored = false;
+}
+
 void CXMLTreeBuilder::FlushText(CXMLNode* before)
 {
+    mIsStored = false;
     if (mText.empty())
         return;
     if (!mIsWhite || !mOpen.back().hasElements) {
@@ -96,6 +113,7 @@ void CXMLTreeBuilder::FlushText(CXMLNode* before)
 
 void CXMLTreeBuilder::Section()
 {
+    TakeTextBack();
     if (!mReader)
         return KeepSection();
     CXMLSectionStream stream(mScanner);

@@ -33,6 +33,7 @@ private:
     void Start();
     void End();
     void AddText();
+    void TakeTextBack();
     void FlushText(CXMLNode* before);
     void DropWhite();
     void Section();
@@ -48,6 +49,7 @@ private:
     // A text is complete only when a node follows it, since skipped sections leave no gap.
     std::string mText;
     bool mIsWhite = true;
+    bool mIsStored = false; // the text went into its element at once and nothing followed so far
     std::vector<CXMLNode*>
         mWhite; // nodes that go if their element turns out to have child elements
 };

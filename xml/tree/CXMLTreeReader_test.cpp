@@ -264,4 +264,20 @@ TEST(XmlTreeReader, AnyChangedByteIsRefusedOrStable)
     EXPECT_GT(nbRead, text.size());
 }
 
+TEST(XmlTreeReader, ATextAroundSkippedSectionsIsOneAndAppearsBehindThem)
+{
+    int nbTexts = 0;
+    CCallback skip([&](XIXMLElement* element, XIXMLReadStream* stream) {
+        readAll(stream);
+        nbTexts += element->GetFirstText() != nullptr;
+        return true;
+    });
+    const CTreePtr tree =
+        readTree("<a>x<![CDATA[1]]>y<![CDATA[2]]> z</a>", CXMLTextSource::kWhole, &skip);
+    EXPECT_EQ(nbTexts, 0);
+    XIXMLData* text = tree->GetRoot()->GetFirstElement()->GetFirstNode();
+    EXPECT_STREQ(text->GetText(), "xy z");
+    EXPECT_EQ(text->GetNextNode(), nullptr);
+}
+
 } // namespace OrvaneXML

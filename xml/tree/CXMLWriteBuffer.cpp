@@ -1,7 +1,6 @@
 #include "xml/tree/CXMLWriteBuffer.h"
 
 #include <algorithm>
-#include <cstring>
 #include <stdexcept>
 
 namespace OrvaneXML {
@@ -17,14 +16,29 @@ std::uint32_t CXMLWriteBuffer::Write(const void* buffer, std::uint32_t size)
     return size;
 }
 
-void CXMLWriteBuffer::Put(std::string_view text)
+void CXMLWriteBuffer::PutAcross(std::string_view text)
 {
-    if (text.size() > kSize - mFilled)
-        Flush();
+    Flush();
     if (text.size() > kSize)
         return Forward(text.data(), text.size());
-    std::copy(text.begin(), text.end(), mBuffer.get() + mFilled);
-    mFilled += text.size();
+    std::memcpy(mBuffer.get(), text.data(), text.size());
+    mFilled = text.size();
+}
+
+const char* CXMLWriteBuffer::PutUpTo(const char* text,
+                                     const std::array<unsigned char, 256>& classOf,
+                                     unsigned classes)
+{
+    for (;;) {
+        char* out = mBuffer.get() + mFilled;
+        const char* const end = mBuffer.get() + kSize;
+        while (out != end && !(classOf[static_cast<unsigned char>(*text)] & classes))
+            *out++ = *text++;
+        mFilled = static_cast<std::size_t>(out - mBuffer.get());
+        if (out != end)
+            return text;
+        Flush();
+    }
 }
 
 void CXMLWriteBuffer::Flush()

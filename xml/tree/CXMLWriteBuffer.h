@@ -2,7 +2,9 @@
 
 #include <zel/xml/XIXMLWriteStream.h>
 
+#include <array>
 #include <cstddef>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -21,11 +23,45 @@ public:
             Flush();
         mBuffer[mFilled++] = c;
     }
-    void Put(std::string_view text);
+    void Put(std::string_view text)
+    {
+        if (text.size() > kSize - mFilled)
+            return PutAcross(text);
+        copyShort(mBuffer.get() + mFilled, text.data(), text.size());
+        mFilled += text.size();
+    }
+    /// Puts what `text` has in front of the first character of one of the `classes`, which NUL is
+    /// of in any case, and returns where that stands.
+    const char* PutUpTo(const char* text, const std::array<unsigned char, 256>& classOf,
+                        unsigned classes);
     /// Throws std::runtime_error when the stream takes nothing.
     void Flush();
 
 private:
+    /// Names and tags are short: two overlapping words copy them faster than a call does.
+    static void copyShort(char* to, const char* from, std::size_t nb)
+    {
+        if (nb > 16)
+            std::memcpy(to, from, nb);
+        else if (nb >= 8)
+            copyEnds<8>(to, from, nb);
+        else if (nb >= 4)
+            copyEnds<4>(to, from, nb);
+        else if (nb >= 2)
+            copyEnds<2>(to, from, nb);
+        else if (nb == 1)
+            *to = *from;
+    }
+    template <std::size_t kWord>
+    static void copyEnds(char* to, const char* from, std::size_t nb)
+    {
+        char ends[2 * kWord];
+        std::memcpy(ends, from, kWord);
+        std::memcpy(ends + kWord, from + nb - kWord, kWord);
+        std::memcpy(to, ends, kWord);
+        std::memcpy(to + nb - kWord, ends + kWord, kWord);
+    }
+    void PutAcross(std::string_view text);
     void Forward(const char* bytes, std::size_t size);
 
     static constexpr std::size_t kSize = 64 * 1024;

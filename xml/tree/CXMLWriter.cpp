@@ -55,14 +55,14 @@ struct SContent {
 SContent contentOf(const CXMLElement& element)
 {
     SContent content;
-    for (const CXMLNode* node = element.FirstChild(); node; node = node->Next()) {
+    for (const CXMLNode* node = element.FirstNode(); node; node = node->Next()) {
         const CXMLNode::EKind kind = node->Kind();
         if (kind == CXMLNode::EKind::Text && !*node->GetText())
             continue; // nothing to be seen of it
         content.isEmpty = false;
         content.hasElements |= kind == CXMLNode::EKind::Element;
         content.hasText |= kind == CXMLNode::EKind::Text || kind == CXMLNode::EKind::CData;
-        if (content.hasElements && content.hasText)
+        if (content.hasElements && (content.hasText || !element.MayHoldText()))
             break;
     }
     return content;
@@ -72,7 +72,7 @@ SContent contentOf(const CXMLElement& element)
 
 bool CXMLWriter::Write(const CXMLElement& root)
 {
-    CXMLNode* node = root.FirstChild();
+    CXMLNode* node = root.FirstNode();
     if (!node)
         return true;
     for (;;) {
@@ -81,7 +81,7 @@ bool CXMLWriter::Write(const CXMLElement& root)
         auto* element =
             static_cast<CXMLElement*>(node->Kind() == CXMLNode::EKind::Element ? node : nullptr);
         if (element ? Open(*element) : (Node(*node), false)) {
-            node = element->FirstChild();
+            node = element->FirstNode();
             continue;
         }
         while (!node->Next() && node->ParentElement() != &root) {
@@ -104,8 +104,11 @@ void CXMLWriter::NewLine()
     if (mIsStarted)
         mOut.Put('\n');
     mIsStarted = true;
-    for (std::size_t i = 0; i < mHasElements.size(); ++i)
-        mOut.Put('\t');
+    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
+    std::size_t nb = mHasElements.size();
+    for (; nb > kTabs.size(); nb -= kTabs.size())
+        mOut.Put(kTabs);
+    mOut.Put(kTabs.substr(0, nb));
 }
 
 void CXMLWriter::Node(CXMLNode& node)
@@ -124,23 +127,43 @@ void CXMLWriter::Node(CXMLNode& node)
     }
 }
 
-/// True if the element is open now and its children come next.
-bool CXMLWriter::Open(const CXMLElement& element)
+void CXMLWriter::Tag(const CXMLElement& element)
 {
-    mKeepNext = false;
     mOut.Put('<');
     mOut.Put(element.Name()->view());
     for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
         mOut.Put(' ');
         mOut.Put(item->Name()->view());
         mOut.Put("=\"");
-        Escaped(item->GetValue(), kStopsValue);
+        Escaped(item->Value(), kStopsValue);
         mOut.Put('"');
     }
-    const SContent content = contentOf(element);
-    mOut.Put(content.isEmpty ? "/>" : ">");
-    if (content.isEmpty)
+}
+
+void CXMLWriter::EndTag(const CXMLElement& element)
+{
+    mOut.Put("</");
+    mOut.Put(element.Name()->view());
+    mOut.Put('>');
+}
+
+/// True if the element is open now and its children come next.
+bool CXMLWriter::Open(const CXMLElement& element)
+{
+    mKeepNext = false;
+    Tag(element);
+    if (const char* text = element.LoneText()) {
+        mOut.Put('>');
+        Escaped(text, kStopsText);
+        EndTag(element);
         return false;
+    }
+    const SContent content = contentOf(element);
+    if (content.isEmpty) {
+        mOut.Put("/>");
+        return false;
+    }
+    mOut.Put('>');
     if (mInlineDepth == kNowhere && (content.hasText || !content.hasElements))
         mInlineDepth = mHasElements.size();
     mHasElements.push_back(content.hasElements);
@@ -153,9 +176,7 @@ void CXMLWriter::Close(const CXMLElement& element)
     NewLine();
     if (mInlineDepth == mHasElements.size())
         mInlineDepth = kNowhere;
-    mOut.Put("</");
-    mOut.Put(element.Name()->view());
-    mOut.Put('>');
+    EndTag(element);
 }
 
 void CXMLWriter::Text(const CXMLNode& node)
@@ -197,16 +218,8 @@ void CXMLWriter::Escaped(const char* text, unsigned which)
         Reference(*text++);
         mKeepNext = false;
     }
-    for (;;) {
-        const char* stop = text;
-        while (!(kStops[static_cast<unsigned char>(*stop)] & which))
-            ++stop;
-        mOut.Put({text, static_cast<std::size_t>(stop - text)});
-        if (!*stop)
-            return;
-        Reference(*stop);
-        text = stop + 1;
-    }
+    while (*(text = mOut.PutUpTo(text, kStops, which)))
+        Reference(*text++);
 }
 
 void CXMLWriter::Reference(char c)
@@ -224,9 +237,11 @@ void CXMLWriter::Reference(char c)
         break;
     }
     char digits[4];
-    char* end = std::to_chars(digits, digits + sizeof digits, static_cast<unsigned char>(c)).ptr;
+    const char* end =
+        std::to_chars(digits, digits + sizeof digits, static_cast<unsigned char>(c)).ptr;
     mOut.Put("&#");
-    mOut.Put({digits, static_cast<std::size_t>(end - digits)});
+    for (const char* digit = digits; digit != end; ++digit)
+        mOut.Put(*digit);
     mOut.Put(';');
 }
 

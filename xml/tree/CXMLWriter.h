@@ -28,6 +28,8 @@ public:
 private:
     void NewLine();
     void Node(CXMLNode& node);
+    void Tag(const CXMLElement& element);
+    void EndTag(const CXMLElement& element);
     bool Open(const CXMLElement& element);
     void Close(const CXMLElement& element);
     void Text(const CXMLNode& node);
@@ -44,7 +46,7 @@ private:
     bool mIsStarted = false;
     bool mKeepNext = false;              // the next character of a text goes out as a reference
     std::size_t mInlineDepth = kNowhere; // the outermost open element without added white space
-    std::vector<bool> mHasElements;      // of the open elements
+    std::vector<char> mHasElements;      // of the open elements
 };
 
 } // namespace OrvaneXML
