@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/XCMutexRecursive.h"
-#include "core/isSingleThreaded.h"
+#include "core/changeCount.h"
 
 #include <zel/IZelSharedPtrBase.h>
 
@@ -58,38 +58,20 @@ public:
     virtual ~CZelSharedPtrBase() = default;
 
 protected:
-    static constexpr auto kMinusOne = static_cast<std::uint32_t>(-1);
-
     void raiseStrong()
     {
-        if (!change(mStrong, 1, 1))
+        if (!changeCount(mStrong, 1, 1))
             raiseStrongFromZero();
     }
     void lowerStrong(bool destroy)
     {
-        if (!change(mStrong, 2, kMinusOne))
+        if (!changeCount(mStrong, 2, kMinusOne))
             lowerStrongToZero(destroy);
     }
     void raiseWeak();
     void lowerWeak();
 
 private:
-    /// Adds to the count unless it is below the bound; says whether it did.
-    static bool change(std::atomic<std::uint32_t>& count, std::uint32_t bound, std::uint32_t by)
-    {
-        std::uint32_t value = count.load(std::memory_order_relaxed);
-        if (isSingleThreaded()) {
-            if (value >= bound)
-                count.store(value + by, std::memory_order_relaxed);
-            return value >= bound;
-        }
-        while (value >= bound)
-            if (count.compare_exchange_weak(value, value + by, std::memory_order_acq_rel,
-                                            std::memory_order_relaxed))
-                return true;
-        return false;
-    }
-
     void raiseStrongFromZero();
     void lowerStrongToZero(bool destroy);
 

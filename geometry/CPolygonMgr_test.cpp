@@ -386,7 +386,7 @@ TEST(PolygonMgr, MemoryOfManyQuads)
 {
     constexpr std::int32_t kCount = 100'000;
     if (!ZelTest::canMeterMemory())
-        GTEST_SKIP();
+        GTEST_SKIP() << "this allocator keeps what is freed";
     CTestBlockHost host;
     const CMesh mesh = newMesh(&host.blockMgrRef());
     const auto perQuad = [&, before = ZelTest::heapInUse()] {

@@ -1,27 +1,13 @@
 #include "geometry/CVertexMgrBase.h"
 
 #include "core/CZelMgrRef.h"
+#include "core/changeCount.h"
 #include "core/query.h"
 
 #include <exception>
 #include <memory>
 
 namespace OvZel {
-
-namespace {
-
-/// Raises or lowers the count unless it is below the bound; says whether it did.
-bool change(std::atomic<std::uint32_t>& count, std::uint32_t bound, std::uint32_t by)
-{
-    std::uint32_t value = count.load(std::memory_order_relaxed);
-    while (value >= bound)
-        if (count.compare_exchange_weak(value, value + by, std::memory_order_acq_rel,
-                                        std::memory_order_relaxed))
-            return true;
-    return false;
-}
-
-} // namespace
 
 CVertexMgrBase::~CVertexMgrBase()
 {
@@ -36,7 +22,7 @@ std::int32_t CVertexMgrBase::QueryInterface(const CZelUUID& iid, void** out)
 
 std::uint32_t CVertexMgrBase::AddRef()
 {
-    if (change(mHolders, 1, 1))
+    if (changeCount(mHolders, 1, 1))
         return 1;
     const Orvane::XCMutexRecursive::CLock lock(countMutex());
     if (mHolders.fetch_add(1, std::memory_order_acq_rel) == 0 && mHasLinks)
@@ -46,7 +32,7 @@ std::uint32_t CVertexMgrBase::AddRef()
 
 std::uint32_t CVertexMgrBase::Release()
 {
-    if (change(mHolders, 2, static_cast<std::uint32_t>(-1)))
+    if (changeCount(mHolders, 2, kMinusOne))
         return 1;
     const Orvane::XCMutexRecursive::CLock lock(countMutex());
     if (mHolders.fetch_sub(1, std::memory_order_acq_rel) != 1)
