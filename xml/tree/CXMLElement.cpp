@@ -11,15 +11,18 @@ namespace OrvaneXML {
 
 namespace {
 
+/// Null stands for any name.
+bool isElement(const CXMLNode* node, const SXMLName* name)
+{
+    return node->Kind() == CXMLNode::EKind::Element &&
+           (!name || static_cast<const CXMLElement*>(node)->Name() == name);
+}
+
 XIXMLElement* elementFrom(CXMLNode* node, const SXMLName* name)
 {
-    for (; node; node = node->Next())
-        if (node->Kind() == CXMLNode::EKind::Element) {
-            auto* element = static_cast<CXMLElement*>(node);
-            if (!name || element->Name() == name)
-                return element;
-        }
-    return nullptr;
+    while (node && !isElement(node, name))
+        node = node->Next();
+    return static_cast<CXMLElement*>(node);
 }
 
 } // namespace
@@ -34,6 +37,7 @@ void CXMLElement::CheckChild(EKind kind) const
 
 void CXMLElement::Link(CXMLNode* child, CXMLNode* before)
 {
+    Store().indexed = nullptr;
     CXMLNode* first = FirstChild();
     child->mParent = this;
     child->mNext = before;
@@ -56,6 +60,7 @@ void CXMLElement::Insert(CXMLNode* child, CXMLNode* before)
 
 void CXMLElement::Unlink(CXMLNode* child)
 {
+    Store().indexed = nullptr;
     CXMLNode* next = child->mNext;
     if (child == FirstNode())
         HoldNode(next);
@@ -140,8 +145,39 @@ XIXMLElement* CXMLElement::GetNextSame() const
 
 XIXMLElement* CXMLElement::FindElement(XCXMLKey key) const
 {
-    const SXMLName* name = Store().names.Find(key);
-    return name ? elementFrom(FirstNode(), name) : nullptr;
+    const CXMLStore& store = Store();
+    const SXMLName* name = store.names.Find(key);
+    if (!name)
+        return nullptr;
+    if (store.indexed != this) {
+        // A short way is walked. An element with many children is asked for most of them in turn.
+        constexpr int kShortWay = 8;
+        CXMLNode* node = FirstNode();
+        for (int passed = 0; node && passed < kShortWay; ++passed, node = node->Next())
+            if (isElement(node, name))
+                return static_cast<CXMLElement*>(node);
+        if (!node)
+            return nullptr;
+        IndexChildren();
+    }
+    return name->indexTime == store.indexTime ? name->child : nullptr;
+}
+
+/// Lets each name know the first child that has it.
+void CXMLElement::IndexChildren() const
+{
+    CXMLStore& store = Store();
+    ++store.indexTime;
+    for (CXMLNode* node = FirstNode(); node; node = node->Next()) {
+        if (node->Kind() != EKind::Element)
+            continue;
+        auto* element = static_cast<CXMLElement*>(node);
+        if (element->mName->indexTime == store.indexTime)
+            continue;
+        element->mName->indexTime = store.indexTime;
+        element->mName->child = element;
+    }
+    store.indexed = this;
 }
 
 // ---- adding
@@ -221,9 +257,11 @@ void CXMLElement::SetKey(XCXMLKey key)
 {
     if (IsRoot())
         throw std::runtime_error("The root of a tree has no name");
-    const SXMLName* name = Store().names.Resolve(key);
-    Store().nbBad += name->isBadElement();
-    Store().nbBad -= mName->isBadElement();
+    CXMLStore& store = Store();
+    const SXMLName* name = store.names.Resolve(key);
+    store.nbBad += name->isBadElement();
+    store.nbBad -= mName->isBadElement();
+    store.indexed = nullptr;
     mName = name;
 }
 

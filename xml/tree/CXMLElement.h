@@ -109,6 +109,7 @@ private:
     }
     void HoldText(const char* text) { mContent = reinterpret_cast<std::uintptr_t>(text) | kIsText; }
     void MakeTextNode();
+    void IndexChildren() const;
     void Link(CXMLNode* child, CXMLNode* before);
 
     // Bits that no pointer has: nodes are aligned to 8 and texts to 2.

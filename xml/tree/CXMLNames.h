@@ -10,6 +10,7 @@
 
 namespace OrvaneXML {
 
+class CXMLElement;
 class CXMLNodePool;
 struct CXMLStore;
 
@@ -44,6 +45,9 @@ struct SXMLName {
     std::uint32_t isBad : 1; ///< no name that XML can hold
     /// The name that was asked for behind this one the last time. Documents repeat themselves.
     mutable const SXMLName* follower = nullptr;
+    /// The first child of this name in the element whose children were indexed at that time.
+    mutable CXMLElement* child = nullptr;
+    mutable std::uint64_t indexTime = 0;
 
     const char* text() const { return reinterpret_cast<const char*>(this + 1); }
     std::string_view view() const { return {text(), length}; }

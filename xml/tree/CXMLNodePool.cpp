@@ -1,5 +1,7 @@
 #include "xml/tree/CXMLNodePool.h"
 
+#include "core/largePages.h"
+
 #include <algorithm>
 #include <bit>
 #include <new>
@@ -8,7 +10,7 @@ namespace OrvaneXML {
 
 namespace {
 
-constexpr std::size_t kMaxBlock = 1024 * 1024;
+constexpr std::size_t kMaxBlock = 16 * 1024 * 1024;
 constexpr std::size_t kMaxPiece = 16 * 1024; // up to here four classes to a doubling
 
 } // namespace
@@ -44,6 +46,7 @@ CXMLNodePool::SClass CXMLNodePool::ClassOf(std::size_t size)
 CXMLNodePool::SBlock* CXMLNodePool::NewBlock(std::size_t size)
 {
     auto* block = static_cast<SBlock*>(::operator new(sizeof(SBlock) + size));
+    adviseLargePages(block, sizeof(SBlock) + size);
     *block = {nullptr, mBlocks, size, 0};
     if (mBlocks)
         mBlocks->previous = block;

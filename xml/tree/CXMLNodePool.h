@@ -8,7 +8,7 @@ namespace OrvaneXML {
 
 /// The memory of one tree: blocks cut into pieces, with free lists by size.
 ///
-/// Blocks are small at first, so that a small tree stays small, and grow to 1 MiB, so that a large
+/// Blocks are small at first, so that a small tree stays small, and grow to 16 MiB, so that a large
 /// one asks the system rarely. Pieces that do not fit well into a block come from the heap on their
 /// own and go back there. Nodes are cut from the front of a block and are aligned to 8; texts come
 /// from its back, where they lie as close as an alignment to 2 lets them.
@@ -24,12 +24,17 @@ public:
     void* Allocate(std::size_t size)
     {
         const std::size_t index = FineIndex(size);
-        if (size <= kMaxFine && !mFree[index] && Left() >= (index + 1) * 8) {
-            char* piece = mNext;
-            mNext += (index + 1) * 8;
-            return piece;
+        if (size > kMaxFine)
+            return AllocateAnywhere(size);
+        if (SFree* free = mFree[index]) {
+            mFree[index] = free->next;
+            return free;
         }
-        return AllocateAnywhere(size);
+        if (Left() < (index + 1) * 8)
+            return AllocateAnywhere(size);
+        char* piece = mNext;
+        mNext += (index + 1) * 8;
+        return piece;
     }
     /// `size` is the one given to Allocate.
     void Free(void* piece, std::size_t size);

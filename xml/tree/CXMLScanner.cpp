@@ -37,6 +37,14 @@ bool is(char c, unsigned char what)
     return kClasses[static_cast<unsigned char>(c)] & what;
 }
 
+template <class TChar>
+TChar* pastWhite(TChar* p)
+{
+    while (isWhite(*p))
+        ++p;
+    return p;
+}
+
 } // namespace
 
 CXMLScanner::EToken CXMLScanner::Next()
@@ -47,9 +55,10 @@ CXMLScanner::EToken CXMLScanner::Next()
         mIsEmptyElement = false;
         return CloseElement();
     }
-    if (mIsOverwritten)
-        mBuffer[mPosition] = mOverwritten;
-    mIsOverwritten = false;
+    if (mIsCovered) {
+        mIsCovered = false;
+        mBuffer[mPosition] = '<';
+    }
     if (!mIsStarted && StartsWith("\xEF\xBB\xBF"))
         mPosition += 3;
     mIsStarted = true;
@@ -58,18 +67,27 @@ CXMLScanner::EToken CXMLScanner::Next()
         if (!Need(1))
             return AtEnd();
         if (mBuffer[mPosition] == '<') {
-            if (!StartsWith("<!DOCTYPE"))
-                return Markup();
-            Doctype();
+            if (const EToken token = Markup(); token != EToken::End)
+                return token;
         } else if (mOpenBegins.empty()) {
             SkipWhite();
-            CountTokenLines();
             if (mPosition < mEnd && Peek() != '<')
                 Fail("text outside the root element");
+        } else if (mIsBehindTag && IsBetweenTags(At(0))) {
+            mPosition = PlaceOf(pastWhite(At(0)));
         } else {
-            return ScanText();
+            return TextToken();
         }
     }
+}
+
+/// Whether here is white space that means nothing, since the element has child elements.
+bool CXMLScanner::IsBetweenTags(const char* p) const
+{
+    p = pastWhite(p);
+    if (*p != '<' || !p[1] || p[1] == '!' || p[1] == '?')
+        return false;
+    return mIsBehindChild || p[1] != '/';
 }
 
 CXMLScanner::EToken CXMLScanner::AtEnd()
@@ -81,15 +99,22 @@ CXMLScanner::EToken CXMLScanner::AtEnd()
     return EToken::End;
 }
 
+/// End stands for a document type declaration, which is no token.
 CXMLScanner::EToken CXMLScanner::Markup()
 {
-    ++mPosition;
-    switch (Peek()) {
+    Need(2);
+    switch (*At(1)) {
     case '/':
         return EndTag();
     case '?':
+        ++mPosition;
         return Instruction();
     case '!':
+        if (StartsWith("<!DOCTYPE")) {
+            Doctype();
+            return EToken::End;
+        }
+        ++mPosition;
         if (StartsWith("!--"))
             return Comment();
         if (StartsWith("![CDATA["))
@@ -119,16 +144,16 @@ CXMLScanner::SPiece CXMLScanner::UpTo(std::string_view mark)
         if (std::string_view(At(from) - mark.size(), mark.size()) != mark)
             continue;
         mPosition = mTokenBegin + from;
-        const SPiece piece{begin, from - mark.size()};
-        if (std::memchr(At(piece.begin), 0, piece.end - piece.begin))
+        const SPiece piece{At(begin), At(from - mark.size())};
+        if (std::memchr(piece.begin, 0, piece.view().size()))
             Fail("NUL byte");
-        CountTokenLines();
         return piece;
     }
 }
 
 CXMLScanner::EToken CXMLScanner::Comment()
 {
+    mIsBehindTag = false;
     mPosition += 3;
     mText = UpTo("-->");
     Terminate(mText);
@@ -137,84 +162,112 @@ CXMLScanner::EToken CXMLScanner::Comment()
 
 CXMLScanner::EToken CXMLScanner::Instruction()
 {
+    mIsBehindTag = false;
     ++mPosition;
     const SPiece all = UpTo("?>");
-    const char* begin = At(all.begin);
-    const char* end = At(all.end);
-    const char* nameEnd = std::find_if(begin, end, isNameEnd);
-    if (nameEnd == begin || (nameEnd != end && !isWhite(*nameEnd)))
+    char* nameEnd = std::find_if(all.begin, all.end, isNameEnd);
+    if (nameEnd == all.begin || (nameEnd != all.end && !isWhite(*nameEnd)))
         Fail("bad instruction target", mTokenBegin);
-    const char* content = std::find_if_not(nameEnd, end, isWhite);
-    mName = {all.begin, all.begin + static_cast<std::size_t>(nameEnd - begin)};
-    mText = {all.begin + static_cast<std::size_t>(content - begin), all.end};
+    mName = {all.begin, nameEnd};
+    mText = {std::find_if_not(nameEnd, all.end, isWhite), all.end};
     Terminate(mName);
     Terminate(mText);
     return EToken::Instruction;
 }
 
-CXMLScanner::SPiece CXMLScanner::ScanName()
+/// Scans the token once more whenever the window ended in it.
+template <char* (CXMLScanner::*Scan)()>
+void CXMLScanner::Whole()
 {
-    const std::size_t begin = Here();
-    SkipWhile([](char c) { return !is(c, kEndsName); });
-    Peek(); // a name is followed by something
-    const auto c = static_cast<unsigned char>(mBuffer[mPosition]);
-    if (Here() == begin || (c < ' ' && !isWhite(mBuffer[mPosition])))
-        Fail("bad name");
-    return {begin, Here()};
+    char* end;
+    while (!(end = (this->*Scan)()))
+        if (!Widen())
+            Fail("unexpected end", mEnd);
+    mPosition = PlaceOf(end);
+}
+
+/// A NUL was met: the end of the window, or a byte that no document may have.
+char* CXMLScanner::Cut(char* p)
+{
+    if (PlaceOf(p) != mEnd)
+        Fail("NUL byte", PlaceOf(p));
+    return nullptr;
+}
+
+char* CXMLScanner::ScanName(char* p, SPiece& name)
+{
+    name.begin = p;
+    while (!is(*p, kEndsName))
+        ++p;
+    name.end = p;
+    if (!*p)
+        return Cut(p);
+    if (p == name.begin || (static_cast<unsigned char>(*p) < ' ' && !isWhite(*p)))
+        Fail("bad name", PlaceOf(p));
+    return p;
+}
+
+char* CXMLScanner::ScanStartTag()
+{
+    mAttributes.clear();
+    mIsEmptyElement = false;
+    char* p = ScanName(At(1), mName);
+    while (p) {
+        p = pastWhite(p);
+        if (*p == '>')
+            return p + 1;
+        if (*p == '/') {
+            if (!p[1])
+                return Cut(p + 1);
+            if (p[1] != '>')
+                Fail("\">\" expected", PlaceOf(p + 1));
+            mIsEmptyElement = true;
+            return p + 2;
+        }
+        p = *p ? ScanAttribute(p) : Cut(p);
+    }
+    return nullptr;
+}
+
+char* CXMLScanner::ScanAttribute(char* p)
+{
+    SAttribute& attribute = mAttributes.emplace_back();
+    p = ScanName(p, attribute.name);
+    if (!p)
+        return nullptr;
+    p = pastWhite(p);
+    if (*p != '=')
+        return *p ? (Fail("\"=\" expected", PlaceOf(p)), nullptr) : Cut(p);
+    p = pastWhite(p + 1);
+    const char quote = *p;
+    if (quote != '"' && quote != '\'')
+        return quote ? (Fail("quote expected", PlaceOf(p)), nullptr) : Cut(p);
+    attribute.value.begin = ++p;
+    p = ScanValue(p, quote, attribute.isPlain);
+    attribute.value.end = p;
+    return p ? p + 1 : nullptr;
+}
+
+/// The place of the quote that ends the value.
+char* CXMLScanner::ScanValue(char* p, char quote, bool& isPlain)
+{
+    isPlain = true;
+    for (;; ++p) {
+        while (!is(*p, kEndsValue))
+            ++p;
+        if (*p == quote)
+            return p;
+        if (!*p)
+            return Cut(p);
+        if (*p != '"' && *p != '\'')
+            isPlain = false;
+    }
 }
 
 CXMLScanner::EToken CXMLScanner::StartTag()
 {
-    mAttributes.clear();
-    mName = ScanName();
-    for (;;) {
-        SkipWhite();
-        const char c = Peek();
-        if (c == '>' || c == '/')
-            break;
-        ScanAttribute();
-    }
-    mIsEmptyElement = Get() == '/';
-    if (mIsEmptyElement && Get() != '>')
-        Fail("\">\" expected");
-    FinishTag();
+    Whole<&CXMLScanner::ScanStartTag>();
     OpenElement();
-    return EToken::StartTag;
-}
-
-void CXMLScanner::ScanAttribute()
-{
-    SAttribute attribute;
-    attribute.name = ScanName();
-    SkipWhite();
-    if (Get() != '=')
-        Fail("\"=\" expected");
-    SkipWhite();
-    const char quote = Get();
-    if (quote != '"' && quote != '\'')
-        Fail("quote expected");
-    ScanValue(attribute, quote);
-    mAttributes.push_back(attribute);
-}
-
-void CXMLScanner::ScanValue(SAttribute& attribute, char quote)
-{
-    attribute.value.begin = Here();
-    for (;;) {
-        SkipWhile([](char c) { return !is(c, kEndsValue); });
-        const char c = Get();
-        if (c == quote)
-            break;
-        if (c != '"' && c != '\'')
-            attribute.isPlain = false;
-    }
-    attribute.value.end = Here() - 1;
-}
-
-/// Decodes and terminates only now that the whole tag is there and its lines are counted.
-void CXMLScanner::FinishTag()
-{
-    CountTokenLines();
     for (SAttribute& attribute : mAttributes) {
         if (!attribute.isPlain)
             Decode(attribute.value, true);
@@ -222,6 +275,7 @@ void CXMLScanner::FinishTag()
         Terminate(attribute.value);
     }
     Terminate(mName);
+    return EToken::StartTag;
 }
 
 void CXMLScanner::OpenElement()
@@ -231,6 +285,8 @@ void CXMLScanner::OpenElement()
     if (mOpenBegins.size() == kMaxDepth)
         Fail("elements nested too deeply", mTokenBegin);
     mIsRootSeen = true;
+    mIsBehindTag = true;
+    mIsBehindChild = false;
     mOpenBegins.push_back(mOpenNames.size());
     mOpenNames += Name();
 }
@@ -239,50 +295,70 @@ CXMLScanner::EToken CXMLScanner::CloseElement()
 {
     mOpenNames.resize(mOpenBegins.back());
     mOpenBegins.pop_back();
+    mIsBehindTag = mIsBehindChild = true;
     return EToken::EndTag;
+}
+
+char* CXMLScanner::ScanEndTag()
+{
+    char* p = ScanName(At(2), mName);
+    if (!p)
+        return nullptr;
+    if (mOpenBegins.empty() || Name() != std::string_view(mOpenNames).substr(mOpenBegins.back()))
+        Fail("end tag does not match", PlaceOf(p));
+    p = pastWhite(p);
+    if (!*p)
+        return Cut(p);
+    if (*p != '>')
+        Fail("\">\" expected", PlaceOf(p));
+    return p + 1;
 }
 
 CXMLScanner::EToken CXMLScanner::EndTag()
 {
-    ++mPosition;
-    const std::string_view name = View(ScanName());
-    if (mOpenBegins.empty() || name != std::string_view(mOpenNames).substr(mOpenBegins.back()))
-        Fail("end tag does not match");
-    SkipWhite();
-    if (Get() != '>')
-        Fail("\">\" expected");
-    CountTokenLines();
+    Whole<&CXMLScanner::ScanEndTag>();
     return CloseElement();
 }
 
-CXMLScanner::EToken CXMLScanner::ScanText()
+char* CXMLScanner::ScanText()
 {
-    SkipWhite();
-    mIsWhite = !Need(1) || mBuffer[mPosition] == '<';
-    bool isPlain = !std::memchr(At(0), '\r', Here());
-    for (;;) {
-        SkipWhile([](char c) { return !is(c, kEndsText); });
-        if (mPosition == mEnd || mBuffer[mPosition] == '<')
+    char* const begin = At(0);
+    char* p = begin;
+    mIsPlain = true;
+    for (; isWhite(*p); ++p)
+        mIsPlain &= *p != '\r';
+    mIsWhite = *p == '<';
+    for (;; ++p) {
+        while (!is(*p, kEndsText))
+            ++p;
+        if (*p == '<' || !*p)
             break;
-        Get(); // refuses NUL
-        isPlain = false;
+        mIsPlain = false;
     }
-    CountTokenLines();
-    mText = {0, Here()};
-    if (!isPlain)
+    mText = {begin, p};
+    return *p ? p : Cut(p);
+}
+
+CXMLScanner::EToken CXMLScanner::TextToken()
+{
+    while (!ScanText())
+        if (!Widen())
+            Fail("end tag missing", mEnd);
+    mIsBehindTag = false;
+    mPosition = PlaceOf(mText.end);
+    mIsCovered = true;
+    if (!mIsPlain)
         Decode(mText, false);
-    mOverwritten = mBuffer[mPosition]; // the "<" of the next token
-    mIsOverwritten = true;
     Terminate(mText);
     return EToken::Text;
 }
 
 void CXMLScanner::Decode(SPiece& piece, bool isValue)
 {
-    const SDecoded decoded = decodeText(At(piece.begin), At(piece.end), isValue);
-    if (!decoded.isGood)
-        Fail("unknown reference", static_cast<std::size_t>(decoded.end - mBuffer.get()));
-    piece.end = static_cast<std::size_t>(decoded.end - At(0));
+    const SDecoded decoded = decodeText(piece.begin, piece.end, isValue);
+    if (decoded.bad)
+        Fail("unknown reference", PlaceOf(decoded.bad));
+    piece.end = decoded.end;
 }
 
 void CXMLScanner::Doctype()
@@ -298,6 +374,7 @@ CXMLScanner::EToken CXMLScanner::Section()
 {
     if (mOpenBegins.empty())
         Fail("text outside the root element");
+    mIsBehindTag = false;
     mPosition += 8;
     Release();
     mIsInSection = true;
@@ -342,7 +419,6 @@ std::uint32_t CXMLScanner::ReadSection(void* buffer, std::uint32_t size)
     const std::size_t nb = SectionBytes(size);
     std::memcpy(buffer, mBuffer.get() + mPosition, nb);
     mPosition += nb;
-    CountTokenLines();
     Release();
     return static_cast<std::uint32_t>(nb);
 }
@@ -351,7 +427,6 @@ void CXMLScanner::SkipSection()
 {
     while (const std::size_t nb = SectionBytes(std::numeric_limits<std::size_t>::max() / 2)) {
         mPosition += nb;
-        CountTokenLines();
         Release();
     }
 }

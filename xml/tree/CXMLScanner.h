@@ -12,8 +12,9 @@ namespace OrvaneXML {
 /// Cuts a stream into tokens and checks what can be checked without a tree: nesting, one root
 /// element, references, characters. Syntax errors are thrown as std::runtime_error with the line.
 ///
-/// A token is decoded in place in the window, and its texts are valid until the next token. The
-/// bytes of a CDATA section are handed out as they come and never collected here.
+/// A token is decoded in place in the window, and its texts are valid until the next token. White
+/// space between two tags of which one begins or ends a child element is no token. The bytes of a
+/// CDATA section are handed out as they come and never collected here.
 class CXMLScanner : private CXMLWindow {
 public:
     enum class EToken { End, StartTag, EndTag, Text, Comment, Instruction, CData };
@@ -23,63 +24,74 @@ public:
     EToken Next();
 
     /// The name of a start tag or the target of an instruction. All texts here are NUL-terminated.
-    std::string_view Name() const { return View(mName); }
+    std::string_view Name() const { return mName.view(); }
     /// A text, decoded, or what stands in a comment or instruction, as it is.
-    std::string_view Text() const { return View(mText); }
+    std::string_view Text() const { return mText.view(); }
     /// Whether a text has nothing but white space, none of it written as a reference.
     bool IsWhite() const { return mIsWhite; }
     std::size_t NbAttributes() const { return mAttributes.size(); }
-    std::string_view AttributeName(std::size_t i) const { return View(mAttributes[i].name); }
-    std::string_view AttributeValue(std::size_t i) const { return View(mAttributes[i].value); }
+    std::string_view AttributeName(std::size_t i) const { return mAttributes[i].name.view(); }
+    std::string_view AttributeValue(std::size_t i) const { return mAttributes[i].value.view(); }
 
     /// Delivers bytes of the section behind a CData token; 0 is its end. What is left unread is
     /// skipped by Next.
     std::uint32_t ReadSection(void* buffer, std::uint32_t size);
 
 private:
-    /// A piece of the token, from its beginning, since the token may move while it is scanned.
+    /// A piece of the token.
     struct SPiece {
-        std::size_t begin = 0, end = 0;
+        char* begin = nullptr;
+        char* end = nullptr;
+
+        std::string_view view() const { return {begin, static_cast<std::size_t>(end - begin)}; }
     };
     struct SAttribute {
         SPiece name, value;
-        bool isPlain = true;
+        bool isPlain;
     };
 
-    std::string_view View(SPiece piece) const
-    {
-        return {mBuffer.get() + mTokenBegin + piece.begin, piece.end - piece.begin};
-    }
     EToken Markup();
     EToken AtEnd();
     EToken StartTag();
     EToken EndTag();
     EToken CloseElement();
-    EToken ScanText();
+    EToken TextToken();
     EToken Comment();
     EToken Instruction();
     EToken Section();
     void Doctype();
     SPiece UpTo(std::string_view mark);
-    SPiece ScanName();
-    void ScanAttribute();
-    void ScanValue(SAttribute& attribute, char quote);
-    void FinishTag();
+
+    // These scan from the beginning of the token and change nothing in the window. Null says that
+    // it ends in the middle of the token, anything else is the place behind.
+    template <char* (CXMLScanner::*Scan)()>
+    void Whole();
+    char* ScanStartTag();
+    char* ScanAttribute(char* p);
+    char* ScanValue(char* p, char quote, bool& isPlain);
+    char* ScanEndTag();
+    char* ScanText();
+    char* ScanName(char* p, SPiece& name);
+    char* Cut(char* p);
+
+    bool IsBetweenTags(const char* p) const;
     void OpenElement();
     void Decode(SPiece& piece, bool isValue);
-    void Terminate(SPiece piece) { *At(piece.end) = 0; }
+    static void Terminate(SPiece piece) { *piece.end = 0; }
     std::size_t SectionBytes(std::size_t most);
     void SkipSection();
     SPiece mName;
     SPiece mText;
     std::vector<SAttribute> mAttributes;
     bool mIsWhite = false;
+    bool mIsPlain = false; // a text without references and carriage returns
     bool mIsStarted = false;
+    bool mIsBehindTag = false;   // nothing followed the last tag so far
+    bool mIsBehindChild = false; // and that was an end tag
     bool mIsRootSeen = false;
     bool mIsEmptyElement = false; // its end is the next token
     bool mIsInSection = false;
-    char mOverwritten = 0; // what stands at mPosition when mIsOverwritten
-    bool mIsOverwritten = false;
+    bool mIsCovered = false; // the "<" at mPosition, by the NUL of the text in front of it
 
     std::string mOpenNames; // one behind the other
     std::vector<std::size_t> mOpenBegins;

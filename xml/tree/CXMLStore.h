@@ -4,6 +4,7 @@
 #include "xml/tree/CXMLNodePool.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <string_view>
 #include <utility>
@@ -28,6 +29,9 @@ struct CXMLStore {
     /// The first section of the element that is being read, when it is known. Finding it among the
     /// children again for each section would let a small file keep the reader busy for minutes.
     CXMLCDataNode* knownSection = nullptr;
+    /// The element whose children the names know, until any child list or name changes.
+    const CXMLElement* indexed = nullptr;
+    std::uint64_t indexTime = 0;
 
     template <class T, class... TArguments>
     T* New(TArguments&&... arguments)

@@ -14,11 +14,20 @@ namespace OrvaneXML {
 int scanText(const char* text, const char* format, std::va_list arguments);
 int scanTextf(const char* text, const char* format, ...);
 
+/// What "%lf" and "%d" read, without the way through a format; false if they store nothing.
+bool scanReal(const char* text, double& value);
+bool scanInteger(const char* text, int& value);
+
 /// Prints as snprintf does in the "C" locale, with the same conversions, a width and a leading 0 in
 /// front of it; `%f` has six decimals. What does not fit into `size` bytes is cut off. Returns the
 /// length of the whole text. Numbers that are not finite are "nan", "inf" and "-inf".
 int printText(char* buffer, std::size_t size, const char* format, std::va_list arguments);
 int printTextf(char* buffer, std::size_t size, const char* format, ...);
+
+/// What "%f" and "%d" print, with a NUL behind it.
+constexpr std::size_t kLongestReal = 332;
+void printReal(char (&buffer)[kLongestReal], double value);
+void printInteger(char (&buffer)[kLongestReal], int value);
 
 /// A printed text of any length, which needs memory of its own only beyond the usual length.
 class CXMLPrinted {

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <climits>
 #include <cmath>
+#include <cstdint>
 #include <cstring>
 #include <stdexcept>
 #include <string_view>
@@ -13,6 +14,42 @@
 namespace OrvaneXML {
 
 namespace {
+
+__extension__ typedef unsigned __int128 TWide;
+
+/// A number with six decimals as millionths, rounded to the nearest and half to even, as exact
+/// arithmetic has it. False for a number that is too large or no number.
+bool toMillionths(double value, std::uint64_t& millionths)
+{
+    constexpr double kTooLarge = 1e12;
+    if (!(value < kTooLarge))
+        return false;
+    int exponent = 0;
+    const double fraction = std::frexp(value, &exponent); // below 1, with 53 bits
+    const auto bits = static_cast<std::uint64_t>(std::ldexp(fraction, 53));
+    const int shift = 53 - exponent; // what the product is to be divided by, as a power of two
+    const TWide product = TWide{bits} * 1'000'000;
+    millionths = 0;
+    if (shift > 100) // too small to leave anything
+        return true;
+    const TWide rest = product & ((TWide{1} << shift) - 1);
+    const TWide half = TWide{1} << (shift - 1);
+    millionths = static_cast<std::uint64_t>(product >> shift);
+    if (rest > half || (rest == half && millionths % 2 == 1))
+        ++millionths;
+    return true;
+}
+
+char* printMillionths(char* out, std::uint64_t millionths)
+{
+    constexpr std::uint64_t kOne = 1'000'000;
+    out = std::to_chars(out, out + 16, millionths / kOne).ptr;
+    *out++ = '.';
+    auto decimals = static_cast<unsigned>(millionths % kOne);
+    for (int i = 5; i >= 0; --i, decimals /= 10)
+        out[i] = static_cast<char>('0' + decimals % 10);
+    return out + 6;
+}
 
 /// One print: fills the buffer as far as it goes and counts the rest.
 class CPrint {
@@ -144,6 +181,24 @@ int CPrint::run(const char* format)
 int printText(char* buffer, std::size_t size, const char* format, std::va_list arguments)
 {
     return CPrint(buffer, size, arguments).run(format);
+}
+
+void printReal(char (&buffer)[kLongestReal], double value)
+{
+    std::uint64_t millionths = 0;
+    if (!toMillionths(std::fabs(value), millionths)) {
+        printTextf(buffer, sizeof buffer, "%f", value);
+        return;
+    }
+    char* out = buffer;
+    if (std::signbit(value))
+        *out++ = '-';
+    *printMillionths(out, millionths) = 0;
+}
+
+void printInteger(char (&buffer)[kLongestReal], int value)
+{
+    *std::to_chars(buffer, buffer + sizeof buffer - 1, value).ptr = 0;
 }
 
 int printTextf(char* buffer, std::size_t size, const char* format, ...)

@@ -76,6 +76,37 @@ long decimalPower(const char* text, const char* end)
     return static_cast<long>(point - first) + exponent;
 }
 
+/// The digits at `text`, up to 15 of them with those before, joined to `digits`.
+int takeDigits(const char*& text, std::uint64_t& digits, int most)
+{
+    int nb = 0;
+    for (; *text >= '0' && *text <= '9' && nb < most; ++text, ++nb)
+        digits = digits * 10 + static_cast<unsigned>(*text - '0');
+    return nb;
+}
+
+/// A plain decimal that is all of a text: both numbers of the quotient are exact, so that the
+/// division rounds as correctly as any other way. False leaves a text to those.
+bool takePlainDecimal(const char* text, double& value)
+{
+    constexpr int kExact = 15;
+    constexpr double kPowers[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                  1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
+    const bool negative = *text == '-';
+    text += negative;
+    std::uint64_t digits = 0;
+    const int nbBefore = takeDigits(text, digits, kExact);
+    int nbBehind = 0;
+    if (nbBefore > 0 && *text == '.')
+        nbBehind = takeDigits(++text, digits, kExact - nbBefore);
+    if (nbBefore == 0 || *text)
+        return false;
+    value = static_cast<double>(digits) / kPowers[nbBehind];
+    if (negative)
+        value = -value;
+    return true;
+}
+
 template <class T>
 bool takeReal(const char*& text, const char* end, T& value)
 {
@@ -249,6 +280,16 @@ int CScan::run(const char* format)
 int scanText(const char* text, const char* format, std::va_list arguments)
 {
     return CScan(text, arguments).run(format);
+}
+
+bool scanReal(const char* text, double& value)
+{
+    return takePlainDecimal(text, value) || scanTextf(text, "%lf", &value) == 1;
+}
+
+bool scanInteger(const char* text, int& value)
+{
+    return scanTextf(text, "%d", &value) == 1;
 }
 
 int scanTextf(const char* text, const char* format, ...)

@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <bit>
 #include <clocale>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <limits>
+#include <random>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace OrvaneXML {
 
@@ -190,3 +194,62 @@ TEST(XmlText, LocaleDoesNotMatter)
 }
 
 } // namespace OrvaneXML
+
+namespace {
+
+/// Numbers of all sizes, those with six decimals, and those half-way between two of them.
+std::vector<double> manyReals()
+{
+    std::vector<double> values = {0.0,
+                                  -0.0,
+                                  0.5e-6,
+                                  1.5e-6,
+                                  2.5e-6,
+                                  1e12,
+                                  999999999999.9999,
+                                  1e300,
+                                  std::numeric_limits<double>::denorm_min(),
+                                  std::numeric_limits<double>::max(),
+                                  std::numeric_limits<double>::infinity()};
+    std::mt19937_64 random(1);
+    for (int i = 0; i < 100'000; ++i) {
+        const auto bits = random();
+        values.push_back(std::bit_cast<double>(bits));
+        values.push_back(static_cast<double>(static_cast<std::int64_t>(bits) >> (bits % 40 + 20)) /
+                         1e6);
+        // Multiples of 1/128 have seven decimals that end in 5.
+        values.push_back(static_cast<double>(static_cast<std::int64_t>(bits) >> 24) / 128);
+    }
+    return values;
+}
+
+} // namespace
+
+TEST(PrintReal, IsWhatTheFormatPrints)
+{
+    for (double value : manyReals()) {
+        char fast[OrvaneXML::kLongestReal];
+        char plain[OrvaneXML::kLongestReal];
+        OrvaneXML::printReal(fast, value);
+        OrvaneXML::printTextf(plain, sizeof plain, "%f", value);
+        ASSERT_STREQ(fast, plain);
+    }
+}
+
+TEST(ScanReal, IsWhatTheFormatReads)
+{
+    std::vector<std::string> texts = {"",    "-",   ".",    "-.5",  "1.",    "+1",    " 2",
+                                      "2 ",  "1e3", "1.5x", "0x10", "nan",   "-inf",  "1,5",
+                                      "--1", "007", "-0.0", "1..2", "1e400", "1e-400"};
+    for (double value : manyReals()) {
+        char text[OrvaneXML::kLongestReal];
+        OrvaneXML::printReal(text, value);
+        texts.push_back(text);
+    }
+    for (const std::string& text : texts) {
+        double fast = 77, plain = 77;
+        const bool isRead = OrvaneXML::scanReal(text.c_str(), fast);
+        ASSERT_EQ(isRead, OrvaneXML::scanTextf(text.c_str(), "%lf", &plain) == 1) << text;
+        ASSERT_EQ(std::bit_cast<std::uint64_t>(fast), std::bit_cast<std::uint64_t>(plain)) << text;
+    }
+}

@@ -60,8 +60,6 @@ public:
     char Drop()
     {
         const char c = Get();
-        if (c == '\n')
-            ++mLine;
         mTokenBegin = mPosition;
         return c;
     }
@@ -82,25 +80,23 @@ public:
 
     void SkipWhite() { SkipWhile(isWhite); }
 
-    /// Throws std::runtime_error with the line of the place.
+    /// Throws std::runtime_error with the line of the place, behind which nothing was changed yet.
     [[noreturn]] void Fail(const char* what, std::size_t upTo);
     [[noreturn]] void Fail(const char* what) { Fail(what, mPosition); }
 
 protected:
     /// Adds bytes. Places in the window change; offsets from the token's beginning do not.
     bool More();
-    void CountTokenLines();
+    /// Adds bytes until there are twice as many of the token as before, so that to scan it from its
+    /// beginning each time costs no more than to scan it once or twice. False if there are none.
+    bool Widen();
 
     /// Gives up the token; the next one begins here.
-    void Release()
-    {
-        mLine += mTokenLines;
-        mTokenLines = 0;
-        mTokenBegin = mPosition;
-    }
+    void Release() { mTokenBegin = mPosition; }
 
     std::size_t Here() const { return mPosition - mTokenBegin; }
     char* At(std::size_t offset) { return mBuffer.get() + mTokenBegin + offset; }
+    std::size_t PlaceOf(const char* p) const { return static_cast<std::size_t>(p - mBuffer.get()); }
 
     std::unique_ptr<char[]> mBuffer;
     std::size_t mTokenBegin = 0;
@@ -113,8 +109,7 @@ private:
     XIXMLReadStream& mStream;
     std::size_t mCapacity;
     bool mIsAtEnd = false;
-    std::size_t mLine = 1; // of mTokenBegin
-    std::size_t mTokenLines = 0;
+    std::size_t mNbLineEnds = 0; // in all that was read
 };
 
 } // namespace OrvaneXML

@@ -30,6 +30,16 @@ public:
         copyShort(mBuffer.get() + mFilled, text.data(), text.size());
         mFilled += text.size();
     }
+    /// Puts the pieces one behind the other.
+    template <class... TPieces>
+    void PutAll(TPieces... pieces)
+    {
+        if ((pieces.size() + ...) > kSize - mFilled)
+            return (Put(pieces), ...);
+        char* out = mBuffer.get() + mFilled;
+        ((copyShort(out, pieces.data(), pieces.size()), out += pieces.size()), ...);
+        mFilled = static_cast<std::size_t>(out - mBuffer.get());
+    }
     /// Puts what `text` has in front of the first character of one of the `classes`, which NUL is
     /// of in any case, and returns where that stands.
     const char* PutUpTo(const char* text, const std::array<unsigned char, 256>& classOf,

@@ -7,6 +7,8 @@
 #include <charconv>
 #include <cstring>
 
+using namespace std::string_view_literals;
+
 namespace OrvaneXML {
 
 namespace {
@@ -129,12 +131,9 @@ void CXMLWriter::Node(CXMLNode& node)
 
 void CXMLWriter::Tag(const CXMLElement& element)
 {
-    mOut.Put('<');
-    mOut.Put(element.Name()->view());
+    mOut.PutAll("<"sv, element.Name()->view());
     for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
-        mOut.Put(' ');
-        mOut.Put(item->Name()->view());
-        mOut.Put("=\"");
+        mOut.PutAll(" "sv, item->Name()->view(), "=\""sv);
         Escaped(item->Value(), kStopsValue);
         mOut.Put('"');
     }
@@ -142,9 +141,7 @@ void CXMLWriter::Tag(const CXMLElement& element)
 
 void CXMLWriter::EndTag(const CXMLElement& element)
 {
-    mOut.Put("</");
-    mOut.Put(element.Name()->view());
-    mOut.Put('>');
+    mOut.PutAll("</"sv, element.Name()->view(), ">"sv);
 }
 
 /// True if the element is open now and its children come next.

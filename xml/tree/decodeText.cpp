@@ -85,7 +85,7 @@ SDecoded decodeText(char* begin, const char* end, bool isValue)
             const unsigned code =
                 stop ? referenceCode({in, static_cast<std::size_t>(stop - in)}) : 0;
             if (!code)
-                return {out, false};
+                return {out, in};
             out = putUtf8(out, code);
             in = stop + 1;
         } else if (c == '\r') {
@@ -95,7 +95,7 @@ SDecoded decodeText(char* begin, const char* end, bool isValue)
             *out++ = isValue && isWhite(c) ? ' ' : c;
         }
     }
-    return {out, true};
+    return {out, nullptr};
 }
 
 } // namespace OrvaneXML

@@ -3,8 +3,8 @@
 namespace OrvaneXML {
 
 struct SDecoded {
-    char* end;   ///< of what is decoded
-    bool isGood; ///< false when a reference is unknown, in front of which it stops
+    char* end;       ///< of what is decoded
+    const char* bad; ///< behind the "&" of the first unknown reference, or null
 };
 
 /// References become characters and line ends LF; in a value white space becomes blanks. The text
