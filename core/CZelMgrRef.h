@@ -6,6 +6,8 @@
 #include <zel/IZelMgrRef.h>
 #include <zel/IZelWarning.h>
 
+#include <utility>
+
 namespace OvZel {
 
 class IZelFeedback;
@@ -48,6 +50,9 @@ public:
     void warning(const char* text) override;
     void exceptionWarning(const char* context, const std::exception& exception) override;
     void unknownExceptionWarning(const char* context) override;
+
+    /// Switches the read transform on or off and keeps its matrix; true if it was on.
+    bool switchTransform(bool on) { return std::exchange(mTransformActive, on); }
 
     /// The language as a key of IZelString.
     std::uint32_t languageKey() const;

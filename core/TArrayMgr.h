@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,9 @@ public:
     C* at(std::int32_t index) const { return object(mElements[static_cast<std::size_t>(index)]); }
     /// A new element behind the last; null after a warning.
     C* append() { return insert(-1); }
+    /// Removes those that the test is true for, in one pass.
+    template <class Test>
+    void removeIf(Test test);
 
 protected:
     using TObjectMgrBase<I>::TObjectMgrBase;
@@ -62,6 +66,18 @@ void TArrayMgr<C, I, Slot>::removeObject(std::int32_t index)
     const auto place = mElements.begin() + index;
     const Slot gone = std::move(*place);
     mElements.erase(place);
+}
+
+template <class C, class I, class Slot>
+template <class Test>
+void TArrayMgr<C, I, Slot>::removeIf(Test test)
+{
+    const auto end = std::stable_partition(mElements.begin(), mElements.end(),
+                                           [&](const Slot& slot) { return !test(*object(slot)); });
+    // As above, the elements die behind the change.
+    const std::vector<Slot> gone(std::make_move_iterator(end),
+                                 std::make_move_iterator(mElements.end()));
+    mElements.erase(end, mElements.end());
 }
 
 template <class C, class I, class Slot>

@@ -32,6 +32,11 @@ protected:
 
     /// Where warnings go; null without a document.
     CZelMgrRef* mgrRef() const { return CZelMgrRef::from(getMgrRef()); }
+    void warn(const char* text) const
+    {
+        if (CZelMgrRef* target = mgrRef())
+            target->warning(text);
+    }
 
 private:
     CSelfBlock<TZelBase> mSelf;

@@ -9,6 +9,10 @@
 
 namespace OvZel {
 
+class CZelXMLAdd;
+class CZelXMLGet;
+class CZelXMLIO;
+
 /// One triangle of a billboard.
 class CZelQuad : public TZelFrontierObjLinkRef<IZelQuad> {
 public:
@@ -17,10 +21,14 @@ public:
     const double* getTriangle() const override { return mTriangle.data(); }
     void setTriangle(const double* triangle) override
     {
-        std::copy_n(triangle, mTriangle.size(), mTriangle.begin());
+        if (triangle != nullptr)
+            std::copy_n(triangle, mTriangle.size(), mTriangle.begin());
     }
     std::int64_t getQuadId() const override { return mQuadId; }
     void setQuadId(std::int64_t id) override { mQuadId = id; }
+
+    void addTo(CZelXMLIO& io, const CZelXMLAdd& out) const;
+    void getFrom(CZelXMLIO& io, const CZelXMLGet& in);
 
 private:
     std::array<double, 9> mTriangle{};

@@ -24,6 +24,7 @@ TEST(Quad, CopiesItsTriangle)
     quad.setTriangle(triangle);
     triangle[8] = 0;
     quad.setTriangle(quad.getTriangle());
+    quad.setTriangle(nullptr);
     for (int i = 0; i < 9; ++i)
         EXPECT_EQ(quad.getTriangle()[i], i + 1);
 }

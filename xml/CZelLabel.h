@@ -13,4 +13,9 @@ struct CZelLabel {
     std::int32_t value;
 };
 
+/// Raises "No label for the value (%d) [%s..%s]" for a number that the table does not have.
+const char* labelText(const CZelLabel* table, std::int32_t value);
+/// Raises "Invalid label (%s) [%s..%s]" for a text that the table does not have.
+std::int32_t labelValue(const CZelLabel* table, const char* text);
+
 } // namespace OvZel

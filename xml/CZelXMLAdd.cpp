@@ -26,14 +26,6 @@ bool print(char (&buffer)[kFormattedSize], const char* format, std::va_list argu
     }
 }
 
-const char* lastLabel(const CZelLabel* table)
-{
-    const char* last = "";
-    for (; table->text != nullptr; ++table)
-        last = table->text;
-    return last;
-}
-
 } // namespace
 
 CZelXMLAdd::CZelXMLAdd(XIXMLElement* element) : mElement(element)
@@ -74,31 +66,33 @@ XIXMLElement* CZelXMLAdd::AddBoolean(const char* tag, bool value) const
     return value ? newChild(tag) : nullptr;
 }
 
-XIXMLElement* CZelXMLAdd::addPrinted(const char* tag, const char* format, ...) const
+XIXMLElement* CZelXMLAdd::addText(const char* tag, const char* text) const
 {
-    char buffer[kFormattedSize];
-    std::va_list arguments;
-    va_start(arguments, format);
-    OrvaneXML::printText(buffer, sizeof buffer, format, arguments);
-    va_end(arguments);
     XIXMLElement* child = AddElement(tag);
-    child->AddText(buffer);
+    if (*text != '\0')
+        child->GetNode()->SetText(text); // asking the element itself spares the tree a node
     return child;
 }
 
 XIXMLElement* CZelXMLAdd::AddInteger(const char* tag, std::int32_t value) const
 {
-    return addPrinted(tag, "%d", value);
+    char text[OrvaneXML::kLongestReal];
+    OrvaneXML::printInteger(text, value);
+    return addText(tag, text);
 }
 
 XIXMLElement* CZelXMLAdd::AddInteger64(const char* tag, std::int64_t value) const
 {
-    return addPrinted(tag, "%lld", static_cast<long long>(value));
+    char text[OrvaneXML::kLongestReal];
+    OrvaneXML::printTextf(text, sizeof text, "%lld", static_cast<long long>(value));
+    return addText(tag, text);
 }
 
 XIXMLElement* CZelXMLAdd::AddDouble(const char* tag, double value) const
 {
-    return addPrinted(tag, "%lf", value);
+    char text[OrvaneXML::kLongestReal];
+    OrvaneXML::printReal(text, value);
+    return addText(tag, text);
 }
 
 XIXMLElement* CZelXMLAdd::AddFloat(const char* tag, float value) const
@@ -108,10 +102,7 @@ XIXMLElement* CZelXMLAdd::AddFloat(const char* tag, float value) const
 
 XIXMLElement* CZelXMLAdd::AddText(const char* tag, const char* text) const
 {
-    XIXMLElement* child = AddElement(tag);
-    if (text != nullptr && *text != '\0')
-        child->AddText(text);
-    return child;
+    return addText(tag, text != nullptr ? text : "");
 }
 
 XIXMLElement* CZelXMLAdd::AddFmtData(const char* tag, const char* format, ...) const
@@ -122,14 +113,19 @@ XIXMLElement* CZelXMLAdd::AddFmtData(const char* tag, const char* format, ...) c
     const bool fits = print(buffer, format, arguments);
     va_end(arguments);
     OvThrow::IfFalse(fits, "CZelXMLAdd::AddFmtData", tag);
-    XIXMLElement* child = AddElement(tag);
-    child->AddText(buffer);
-    return child;
+    return addText(tag, buffer);
 }
 
 void CZelXMLAdd::AddAttribute(const char* name, const char* text) const
 {
     mElement->AddAttribute(mElement->MakeKey(name), text);
+}
+
+void CZelXMLAdd::addReal(const char* name, double value) const
+{
+    char text[OrvaneXML::kLongestReal];
+    OrvaneXML::printReal(text, value);
+    AddAttribute(name, text);
 }
 
 void CZelXMLAdd::AddFmtAttribute(const char* name, const char* format, ...) const
@@ -146,11 +142,7 @@ void CZelXMLAdd::AddFmtAttribute(const char* name, const char* format, ...) cons
 void CZelXMLAdd::AddAttributeLabel(const char* name, const CZelLabel* table,
                                    std::int32_t value) const
 {
-    for (const CZelLabel* label = table; label->text != nullptr; ++label)
-        if (label->value == value)
-            return AddAttribute(name, label->text);
-    OvThrow::Signal("No label for the value (%d) [%s..%s]", value,
-                    table->text != nullptr ? table->text : "", lastLabel(table));
+    AddAttribute(name, labelText(table, value));
 }
 
 void CZelXMLAdd::AddUUID(const char* name, const CZelUUID& id) const

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "xml/CZelColor.h"
 #include "xml/CZelLabel.h"
 
+#include <zel/CZelColor.h>
 #include <zel/CZelPoint.h>
 #include <zel/CZelUUID.h>
 #include <zel/TZelObjectMgr.h>
@@ -81,7 +81,8 @@ public:
 private:
     /// May be null, unlike the result of AddElement.
     XIXMLElement* newChild(const char* tag) const;
-    XIXMLElement* addPrinted(const char* tag, const char* format, ...) const ZEL_PRINTF(3, 4);
+    XIXMLElement* addText(const char* tag, const char* text) const;
+    void addReal(const char* name, double value) const;
     void addXYZ(const double* xyz) const;
 
     XIXMLElement* mElement;

@@ -34,16 +34,16 @@ XIXMLElement* CZelXMLAdd::AddColor(const char* tag, const CZelColor& color) cons
 XIXMLElement* CZelXMLAdd::AddCoord2D(const char* tag, double x, double y) const
 {
     const CZelXMLAdd child(newChild(tag));
-    child.AddFmtAttribute("X", "%lf", x);
-    child.AddFmtAttribute("Y", "%lf", y);
+    child.addReal("X", x);
+    child.addReal("Y", y);
     return child.element();
 }
 
 void CZelXMLAdd::addXYZ(const double* xyz) const
 {
-    AddFmtAttribute("X", "%lf", xyz[0]);
-    AddFmtAttribute("Y", "%lf", xyz[1]);
-    AddFmtAttribute("Z", "%lf", xyz[2]);
+    addReal("X", xyz[0]);
+    addReal("Y", xyz[1]);
+    addReal("Z", xyz[2]);
 }
 
 XIXMLElement* CZelXMLAdd::AddCoord3D(const char* tag, const CZelPoint& vector) const
@@ -67,7 +67,7 @@ XIXMLElement* CZelXMLAdd::AddZelMatrix(const char* tag, const double* matrix) co
 {
     const CZelXMLAdd child(newChild(tag));
     for (int k = 0; k < 4; ++k) {
-        XIXMLElement* line = child.addPrinted("Line", "%lf, %lf, %lf, %lf", matrix[k],
+        XIXMLElement* line = child.AddFmtData("Line", "%lf, %lf, %lf, %lf", matrix[k],
                                               matrix[4 + k], matrix[8 + k], matrix[12 + k]);
         CZelXMLAdd(line).AddFmtAttribute("Index", "%d", k);
     }

@@ -1,5 +1,7 @@
 #include "xml/CZelXMLBasicData.h"
 
+#include "xml/CZelXMLGet.h"
+#include "xml/CZelXMLIO.h"
 #include "xml/inXMLFrame.h"
 
 namespace OvZel {
@@ -14,6 +16,14 @@ bool CZelXMLBasicData::initWithXML(OrvaneXML::XIXMLElement* element, bool getUUI
 {
     return inXMLFrame(getWarningTarget(), "CZelXMLBasicData::initWithXML", element, getUUID,
                       [&](CZelXMLIO& io) { return getXML(io, element); });
+}
+
+void CZelXMLBasicData::getOptionalId(const CZelXMLIO& io, const CZelXMLGet& in)
+{
+    if (!io.getUUID() || in.GetOptionalAttribute("UUID") == nullptr)
+        return;
+    const CZelUUID id = in.GetUUID("UUID");
+    setId(&id);
 }
 
 } // namespace OvZel

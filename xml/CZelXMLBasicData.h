@@ -4,6 +4,7 @@
 
 namespace OvZel {
 
+class CZelXMLGet;
 class CZelXMLIO;
 
 /// Basic data of an object that can be written alone.
@@ -19,6 +20,9 @@ public:
 
 protected:
     ~CZelXMLBasicData() = default;
+
+    /// Takes the attribute "UUID" if it is there and identifiers are taken from the file.
+    void getOptionalId(const CZelXMLIO& io, const CZelXMLGet& in);
 };
 
 } // namespace OvZel

@@ -4,7 +4,6 @@
 #include "xml/tree/CXMLText.h"
 
 #include <cstdarg>
-#include <cstring>
 
 namespace OvZel {
 
@@ -45,7 +44,7 @@ XIXMLElement* CZelXMLGet::GetElement(const char* tag) const
 std::int32_t CZelXMLGet::GetInteger(const char* tag) const
 {
     int value = 0;
-    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetInteger"), "%d", &value);
+    OrvaneXML::scanInteger(requiredText(GetElement(tag), "CZelXMLGet::GetInteger"), value);
     return value;
 }
 
@@ -59,14 +58,14 @@ std::int64_t CZelXMLGet::GetInteger64(const char* tag) const
 double CZelXMLGet::GetDouble(const char* tag) const
 {
     double value = 0.0;
-    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetDouble"), "%lf", &value);
+    OrvaneXML::scanReal(requiredText(GetElement(tag), "CZelXMLGet::GetDouble"), value);
     return value;
 }
 
 float CZelXMLGet::GetFloat(const char* tag) const
 {
     double value = 0.0;
-    OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetFloat"), "%lf", &value);
+    OrvaneXML::scanReal(requiredText(GetElement(tag), "CZelXMLGet::GetFloat"), value);
     return static_cast<float>(value);
 }
 
@@ -121,15 +120,7 @@ CZelUUID CZelXMLGet::GetUUID(const char* name) const
 
 std::int32_t CZelXMLGet::GetAttributeLabel(const char* name, const CZelLabel* table) const
 {
-    const char* text = getAttribute(name, "CZelXMLGet::GetAttributeLabel")->GetValue();
-    const char* last = "";
-    for (const CZelLabel* label = table; label->text != nullptr; ++label) {
-        if (std::strcmp(label->text, text) == 0)
-            return label->value;
-        last = label->text;
-    }
-    OvThrow::Signal("Invalid label (%s) [%s..%s]", text, table->text != nullptr ? table->text : "",
-                    last);
+    return labelValue(table, getAttribute(name, "CZelXMLGet::GetAttributeLabel")->GetValue());
 }
 
 const char* CZelXMLGet::GetAttributeLanguage(const char* tag) const

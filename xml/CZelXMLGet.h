@@ -1,8 +1,8 @@
 #pragma once
 
-#include "xml/CZelColor.h"
 #include "xml/CZelLabel.h"
 
+#include <zel/CZelColor.h>
 #include <zel/CZelPoint.h>
 #include <zel/CZelUUID.h>
 #include <zel/TZelObjectMgr.h>
@@ -71,16 +71,20 @@ public:
     std::array<double, 2> GetCoord2D() const;
     /// "X", "Y" and "Z" of the wrapped element; each is required and none is transformed.
     CZelPoint GetCoord3D() const;
-    /// These four pass through the read transform. A missing coordinate is 0, but 1 for the "Z" of
+    /// These five pass through the read transform. A missing coordinate is 0, but 1 for the "Z" of
     /// a direction.
     CZelPoint GetPoint(const char* tag, const IZelMgrRef* mgrRef) const;
     CZelPoint GetVector(const char* tag, const IZelMgrRef* mgrRef) const;
     CZelPoint GetDirection(const char* tag, const IZelMgrRef* mgrRef) const;
+    /// As that of a tag, from the wrapped element.
+    CZelPoint GetPoint(const IZelMgrRef* mgrRef) const;
     /// Three corners of the child "Triangle".
     std::array<double, 9> GetTriangle(const IZelMgrRef* mgrRef) const;
 
     /// Attributes "R", "G" and "B", or the children "Red", "Green" and "Blue" of older files.
     CZelColor GetColor(const char* tag) const;
+    /// The same of the wrapped element.
+    CZelColor GetColor() const;
     /// Sixteen doubles in row order. Four lines are required, each with four numbers.
     std::array<double, 16> GetZelMatrix(const char* tag) const;
     /// Sets part after part. "Year" alone is optional.

@@ -1,6 +1,7 @@
 #include "xml/CZelXMLGet.h"
 
 #include "core/OvThrow.h"
+#include "xml/tree/CXMLText.h"
 
 #include <zel/ITable.h>
 #include <zel/IZelMgrRef.h>
@@ -86,7 +87,7 @@ double CZelXMLGet::optionalCoord(const char* name, double start) const
     if (attribute == nullptr)
         return start;
     double value = 0.0;
-    attribute->Scan("%lf", &value);
+    OrvaneXML::scanReal(attribute->GetValue(), value);
     return value;
 }
 
@@ -98,7 +99,12 @@ std::array<double, 3> CZelXMLGet::optionalXYZ(const std::array<double, 3>& start
 
 CZelPoint CZelXMLGet::GetPoint(const char* tag, const IZelMgrRef* mgrRef) const
 {
-    auto xyz = child(tag).optionalXYZ({0.0, 0.0, 0.0});
+    return child(tag).GetPoint(mgrRef);
+}
+
+CZelPoint CZelXMLGet::GetPoint(const IZelMgrRef* mgrRef) const
+{
+    auto xyz = optionalXYZ({0.0, 0.0, 0.0});
     mgrRef->transformPoint(xyz.data());
     return toPoint(xyz);
 }
@@ -128,16 +134,20 @@ std::array<double, 9> CZelXMLGet::GetTriangle(const IZelMgrRef* mgrRef) const
 
 CZelColor CZelXMLGet::GetColor(const char* tag) const
 {
-    const CZelXMLGet color = child(tag);
+    return child(tag).GetColor();
+}
+
+CZelColor CZelXMLGet::GetColor() const
+{
     std::int32_t red = 0, green = 0, blue = 0;
-    if (color.findAttribute("R") != nullptr) {
-        color.GetFmtAttribute("R", "%d", &red);
-        color.GetFmtAttribute("G", "%d", &green);
-        color.GetFmtAttribute("B", "%d", &blue);
+    if (findAttribute("R") != nullptr) {
+        GetFmtAttribute("R", "%d", &red);
+        GetFmtAttribute("G", "%d", &green);
+        GetFmtAttribute("B", "%d", &blue);
     } else {
-        red = color.GetInteger("Red");
-        green = color.GetInteger("Green");
-        blue = color.GetInteger("Blue");
+        red = GetInteger("Red");
+        green = GetInteger("Green");
+        blue = GetInteger("Blue");
     }
     return {{0, lowByte(red), lowByte(green), lowByte(blue)}};
 }

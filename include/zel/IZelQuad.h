@@ -13,7 +13,7 @@ public:
 
     /// Nine doubles, three corners of x, y, z; all zero in a new quad. Good as long as the quad.
     virtual const double* getTriangle() const = 0;
-    /// Copies nine doubles.
+    /// Copies nine doubles; null changes nothing.
     virtual void setTriangle(const double* triangle) = 0;
     /// -1 in a new quad. The file holds the low 32 bits.
     virtual std::int64_t getQuadId() const = 0;
