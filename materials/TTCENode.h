@@ -1,0 +1,19 @@
+#pragma once
+
+#include "core/TZelFrontier.h"
+#include "materials/CTCENode.h"
+
+namespace OvZel {
+
+/// A node with the two faces that a client sees: the tree side and the parameters.
+template <class I>
+class TTCENode : public CTCENode, public TZelFrontier<I> {
+public:
+    const ITCENode* getTCENode() const override { return this; }
+    ITCENode* getTCENode() override { return this; }
+
+protected:
+    using CTCENode::CTCENode;
+};
+
+} // namespace OvZel
