@@ -38,11 +38,12 @@ void getIfThere(double& value, const CZelXMLGet& in, const std::string& tag)
         value = in.GetDouble(tag.c_str());
 }
 
-/// The name is the child's text; older writers gave it as the attribute "en".
-std::string configName(const CZelXMLGet& in)
+/// The name is the child's text. Without text the attribute counts that other names here have.
+const char* configName(const CZelXMLGet& in)
 {
+    const char* text = in.GetText("Config.Name");
     const char* attribute = CZelXMLGet(in.GetElement("Config.Name")).GetOptionalAttribute("en");
-    return attribute != nullptr ? attribute : in.GetText("Config.Name");
+    return *text == '\0' && attribute != nullptr ? attribute : text;
 }
 
 } // namespace

@@ -100,6 +100,7 @@ TEST(RenderParametersXml, TheNameIsATextOrAnAttribute)
     } cases[] = {
         {"<Config.Name>Mine</Config.Name>", "Mine"},
         {"<Config.Name en=\"Mine\"/>", "Mine"},
+        {"<Config.Name en=\"Other\">Mine</Config.Name>", "Mine"},
         {"<Config.Name/>", ""},
         {"<Config.Name de=\"Meins\"/>", ""},
         {"", "Unknown_Config"},

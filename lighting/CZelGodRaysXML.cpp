@@ -1,0 +1,20 @@
+#include "lighting/CZelGodRays.h"
+
+#include "xml/CZelXMLAdd.h"
+#include "xml/CZelXMLGet.h"
+
+namespace OvZel {
+
+void CZelGodRays::addTo(CZelXMLIO&, const CZelXMLAdd& out) const
+{
+    out.AddBoolean("Used", mUsed);
+    out.AddDouble("Power", mPower);
+}
+
+void CZelGodRays::getFrom(CZelXMLIO&, const CZelXMLGet& in)
+{
+    mUsed = in.IsElement("Used");
+    mPower = in.GetDouble("Power");
+}
+
+} // namespace OvZel
