@@ -1,8 +1,8 @@
 #pragma once
 
-#include "core/CZelBasicData.h"
 #include "core/CZelString.h"
 #include "core/TZelFrontier.h"
+#include "xml/CZelXMLBasicData.h"
 
 #include <zel/IZelZelObjectDefinition.h>
 
@@ -27,7 +27,7 @@ protected:
 };
 
 /// The basic data of a definition: its name is that of the definition in the current language.
-class CDefinitionBasicData : public CZelBasicData {
+class CDefinitionBasicData : public CZelXMLBasicData {
 public:
     const char* getName() const override { return definitionName().getCurrentText(); }
     void setName(const char* name) override;

@@ -1,0 +1,106 @@
+#include "objects/CClassData.h"
+
+#include "objects/findOrAdd.h"
+#include "xml/tree/XCXMLTree.h"
+
+using OrvaneXML::XCXMLTree;
+using OrvaneXML::XIXMLElement;
+
+namespace OvZel {
+
+CClassData::CClassData(const char* tag) : mTag(tag) {}
+
+CClassData::~CClassData() = default;
+
+XIXMLElement* CClassData::elementOf(XCXMLTree& tree) const
+{
+    return findOrAdd(*tree.GetRoot(), mTag);
+}
+
+std::unique_ptr<XCXMLTree> CClassData::unpacked() const
+{
+    auto tree = std::make_unique<XCXMLTree>();
+    if (!mPacked.isEmpty())
+        mPacked.unpackInto(*tree->GetRoot());
+    return tree;
+}
+
+void CClassData::show() const
+{
+    if (!mTree) {
+        mTree = unpacked();
+        mPacked = {};
+    }
+}
+
+void CClassData::putAway()
+{
+    if (!mIsShown && mPacked.pack(*elementOf(*mTree)))
+        mTree.reset();
+}
+
+XIXMLElement* CClassData::element() const
+{
+    show();
+    mIsShown = true;
+    return elementOf(*mTree);
+}
+
+void CClassData::read(const CWork& work) const
+{
+    work(elementOf(mTree ? *mTree : *unpacked()));
+}
+
+void CClassData::edit(const CWork& work)
+{
+    if (mTree)
+        return work(elementOf(*mTree));
+    show();
+    try {
+        work(elementOf(*mTree));
+    } catch (...) {
+        putAway();
+        throw;
+    }
+    putAway();
+}
+
+const char* CClassData::getText(const char* tag) const
+{
+    bool isThere = false;
+    read([&](const XIXMLElement* data) { isThere = data->FindElement(data->MakeKey(tag)); });
+    // Only a tree can keep the text where it is.
+    return isThere ? findOrAdd(*element(), tag)->GetNode()->GetText() : "";
+}
+
+void CClassData::setText(const char* tag, const char* text)
+{
+    edit([&](XIXMLElement* data) { findOrAdd(*data, tag)->GetNode()->SetText(text); });
+}
+
+void CClassData::copyFrom(const XIXMLElement& source)
+{
+    if (mPacked.pack(source)) {
+        mTree.reset();
+    } else {
+        // A new tree rather than a second element beside the old one: what a destroyed element took
+        // from its tree stays there.
+        auto tree = std::make_unique<XCXMLTree>();
+        source.GetNode()->CloneInto(tree->GetRoot());
+        mTree = std::move(tree);
+        mPacked = {};
+    }
+    mIsShown = false;
+}
+
+void CClassData::copyInto(XIXMLElement& parent) const
+{
+    if (mTree)
+        elementOf(*mTree)->GetNode()->CloneInto(&parent);
+    else if (!mPacked.isEmpty())
+        mPacked.unpackInto(parent);
+    else
+        parent.AddElement(parent.MakeKey(mTag));
+}
+
+} // namespace OvZel
