@@ -85,31 +85,33 @@ void CZEL::makeContents()
     make(mPreviewImage, mMgrRef.getPtr());
     make(mDefinitions, owner);
     makeFreshTree();
-    make(mAnimations, owner, ElementId::kZelAnimation);
-    make(mPanoramas, owner, ElementId::kZelPanoramaV2);
+    make(mAnimations, owner);
+    make(mPanoramas, owner);
     make(mImages, owner);
     make(mFileInfo, mMgrRef.getPtr());
     mRootDefinition =
         TZelStrongPtr<CZelZelObjectDefinition>(new CZelZelObjectDefinition(mMgrRef.getPtr()));
-    make(mObjectInstances, owner, ElementId::kZelObjectInstance);
-    make(mShaders, owner, ElementId::kZelProperty);
-    make(mScenarios, owner, ElementId::kZelScenario);
-    make(m3DPaths, owner, ElementId::kZel3DPath);
-    make(mEnvironments, owner, ElementId::kZelEnvironment);
-    make(mGrounds, owner, ElementId::kZelGround);
-    make(mLayers, owner, ElementId::kZelLayer);
-    make(mHeliodons, owner, ElementId::kZelHeliodon);
-    make(mCameras, owner, ElementId::kZelCamera);
+    make(mObjectInstances, owner);
+    make(mShaders, owner);
+    make(mScenarios, owner);
+    make(m3DPaths, owner);
+    make(mEnvironments, owner);
+    make(mGrounds, owner);
+    make(mLayers, owner);
+    make(mHeliodons, owner);
+    mHeliodons->newZelObject(-1); // a document always starts with one
+    make(mCameras, owner);
     make(mPolygons, owner);
     make(mPoints, owner, 1024);
-    make(mProperties, owner, ElementId::kZelProperty);
-    make(mLights, owner, ElementId::kZelLight);
-    make(mViewObjects, owner, ElementId::kZelViewObject);
-    make(mBillboards, owner, ElementId::kZelBBMgrData);
-    make(mParallelViews, owner, ElementId::kZelParallelView);
-    make(mWorkingViews, owner, ElementId::kZelParallelView);
-    make(mLightsGroups, owner, ElementId::kZelLightsGroup);
-    make(mExternalDefinitions, owner, ElementId::kZelExternalDefinition);
+    make(mProperties, owner);
+    make(mLights, owner);
+    make(mViewObjects, owner);
+    make(mBillboards, owner);
+    make(mParallelViews, owner);
+    make(mWorkingViews, owner);
+    make(mLightsGroups, owner);
+    mLayerInfo = TZelStrongPtr<CZelLayerInfo>(new CZelLayerInfo(owner));
+    make(mExternalDefinitions, owner);
 }
 
 IZelObjectLink* CZEL::getObjectLink()
@@ -151,18 +153,6 @@ bool CZEL::getFileVersion(std::int32_t* major, std::int32_t* minor) const
 IZelExtStorageWriter* CZEL::setExtStorageWriter(IZelExtStorageWriter* writer)
 {
     return std::exchange(mStorageWriter, writer);
-}
-
-bool CZEL::readShader(IZelProperty*, IZelReadStream* stream)
-{
-    sendMessage(stream == nullptr ? "read stream is NULL" : "Can't get root node");
-    return false;
-}
-
-bool CZEL::writeShader(IZelProperty*, IZelWriteStream*)
-{
-    sendMessage("Property is NULL");
-    return false;
 }
 
 const CZelVersion* CZEL::getSaveVersion() const

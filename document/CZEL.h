@@ -1,15 +1,32 @@
 #pragma once
 
+#include "animation/CZel3DPath.h"
+#include "animation/CZelScenario.h"
 #include "core/TComObjectMgr.h"
 #include "core/TObject2Mgr.h"
-#include "core/TPendingMgr.h"
 #include "core/TSimpleMgr.h"
 #include "core/TZelCOMObjLinkRef.h"
 #include "core/TZelStrongPtr.h"
 #include "document/CDefinitionIndex.h"
 #include "document/CZelFileInfo.h"
+#include "environment/CZelEnvironment.h"
+#include "environment/CZelGround.h"
 #include "geometry/CPolygon.h"
+#include "lighting/CHeliodon.h"
+#include "lighting/CLight.h"
+#include "lighting/CZelLightsGroup.h"
+#include "materials/CProperty.h"
+#include "objects/CZelBBMgrData.h"
+#include "objects/CZelExternalDefinition.h"
+#include "objects/CZelLayer.h"
+#include "objects/CZelLayerInfo.h"
+#include "objects/CZelObjectInstance.h"
 #include "objects/CZelZelObjectDefinition.h"
+#include "views/CCamera.h"
+#include "views/CViewObject.h"
+#include "views/CZelAnimation.h"
+#include "views/CZelPanoramaV2.h"
+#include "views/CZelParallelView.h"
 #include "xml/CZelImage.h"
 #include "xml/IBlockHost.h"
 #include "xml/tree/XCXMLTree.h"
@@ -26,10 +43,6 @@ class CZelXMLGet;
 class CZelXMLIO;
 
 /// The document: the tree of the file, every top-level list, and the road between the two.
-///
-/// Lists of classes that this version doesn't have are TPendingMgr; their sections stay in the tree
-/// from load to save. A class that arrives takes its list's line here, makes it in makeContents and
-/// reads and writes its section in CZELRead.cpp and CZELWrite.cpp.
 class CZEL : public TZelCOMObjLinkRef<IZelMgr>,
              public TZelFrontier<IZelMgrEx>,
              public IZelExtStorageReader,
@@ -83,7 +96,7 @@ public:
     TZelObjectMgr<IZelGround>* getGrounds() override { return &*mGrounds; }
     TZelObjectMgr<IZelLayer>* getLayers() override { return &*mLayers; }
     TZelObjectMgr<IZelLayer>* getLayers2() override { return &*mLayers; }
-    IZelLayerInfo* getLayerInfo() override { return nullptr; }
+    IZelLayerInfo* getLayerInfo() override { return mLayerInfo.getPtr(); }
     CDefinitionMgr* getDefinitions() override { return &*mDefinitions; }
     IZelExtStorageWriter* setExtStorageWriter(IZelExtStorageWriter* writer) override;
     void readCData(IZelReadStream* stream, IZelExtStorageReader* reader) override;
@@ -103,8 +116,8 @@ public:
     bool readShader(IZelProperty* property, IZelReadStream* stream) override;
     bool writeShader(IZelProperty* property, IZelWriteStream* stream) override;
     TZelObjectMgr<IZelParallelView>* getWorkingViews() override { return &*mWorkingViews; }
-    IZelProperty* newShader() override { return mShaders->newZelObject(-1); }
-    void removeShader(IZelProperty*) override {} // no shader can be first in an empty list
+    IZelProperty* newShader() override;
+    void removeShader(IZelProperty* property) override;
     CZelRenderParameters* getRenderParameters() override { return &mRenderParameters; }
     const CZelVersion* getSaveVersion() const override;
 
@@ -138,46 +151,46 @@ private:
     void installTree(std::unique_ptr<OrvaneXML::XCXMLTree> tree);
     void takeApplication(std::string text);
     void readSections(CZelXMLIO& io, const CZelXMLGet& in);
-    void readDefinitions(const CZelXMLGet& in);
+    void readDefinitions(CZelXMLIO& io, const CZelXMLGet& in);
+    void readPaths(CZelXMLIO& io, const CZelXMLGet& in);
+    void mendComponents();
 
     // CZELWrite.cpp
     bool writeDocument(IZelWriteStream& stream);
     void writeImages();
     void writeSections(CZelXMLIO& io);
     void writeFileInfo();
-    void writeDefinitions();
-    void writeWrapper(OrvaneXML::XIXMLElement& wrapper, const CZelZelObjectDefinition& definition);
-    void writeWorkingWindow();
-    void writeRootName();
+    void writeDefinitions(CZelXMLIO& io);
+    void writeWorkingWindow(CZelXMLIO& io);
     void renewInstructions();
     void moveFileInfo();
 
     TZelStrongPtr<CZelMgrRef> mMgrRef;
     std::int32_t mFileMajor = 5;
     std::int32_t mFileMinor = 1;
-    TZelComPtr<TPendingMgr<IZelHeliodon>> mHeliodons;
-    TZelComPtr<TPendingMgr<IZelCamera>> mCameras;
+    TZelComPtr<TComObjectMgr<CHeliodon, IZelHeliodon>> mHeliodons;
+    TZelComPtr<TComObjectMgr<CCamera, IZelCamera>> mCameras;
     TZelComPtr<CPolygons> mPolygons;
     TZelComPtr<CPoints> mPoints;
-    TZelComPtr<TPendingMgr<IZelProperty>> mProperties;
-    TZelComPtr<TPendingMgr<IZelLight>> mLights;
-    TZelComPtr<TPendingMgr<IZelViewObject>> mViewObjects;
-    TZelComPtr<TPendingMgr<IZelBBMgrData>> mBillboards;
-    TZelComPtr<TPendingMgr<IZelParallelView>> mParallelViews;
-    TZelComPtr<TPendingMgr<IZelParallelView>> mWorkingViews;
-    TZelComPtr<TPendingMgr<IZelLightsGroup>> mLightsGroups;
-    TZelComPtr<TPendingMgr<IZelAnimation>> mAnimations;
-    TZelComPtr<TPendingMgr<IZelPanoramaV2>> mPanoramas;
+    TZelComPtr<TObject2Mgr<CProperty, IZelProperty>> mProperties;
+    TZelComPtr<TComObjectMgr<CLight, IZelLight>> mLights;
+    TZelComPtr<TComObjectMgr<CViewObject, IZelViewObject>> mViewObjects;
+    TZelComPtr<TObject2Mgr<CZelBBMgrData, IZelBBMgrData>> mBillboards;
+    TZelComPtr<TComObjectMgr<CZelParallelView, IZelParallelView>> mParallelViews;
+    TZelComPtr<TComObjectMgr<CZelParallelView, IZelParallelView>> mWorkingViews;
+    TZelComPtr<TObject2Mgr<CZelLightsGroup, IZelLightsGroup>> mLightsGroups;
+    TZelComPtr<TObject2Mgr<CZelAnimation, IZelAnimation>> mAnimations;
+    TZelComPtr<TComObjectMgr<CZelPanoramaV2, IZelPanoramaV2>> mPanoramas;
     TZelStrongPtr<CZelZelObjectDefinition> mRootDefinition;
-    TZelComPtr<TPendingMgr<IZelObjectInstance>> mObjectInstances;
-    TZelComPtr<TPendingMgr<IZelProperty>> mShaders;
-    TZelComPtr<TPendingMgr<IZelScenario>> mScenarios;
-    TZelComPtr<TPendingMgr<IZel3DPath>> m3DPaths;
-    TZelComPtr<TPendingMgr<IZelEnvironment>> mEnvironments;
-    TZelComPtr<TPendingMgr<IZelGround>> mGrounds;
-    TZelComPtr<TPendingMgr<IZelLayer>> mLayers;
+    TZelComPtr<TComObjectMgr<CZelObjectInstance, IZelObjectInstance>> mObjectInstances;
+    TZelComPtr<TObject2Mgr<CProperty, IZelProperty>> mShaders;
+    TZelComPtr<TObject2Mgr<CZelScenario, IZelScenario>> mScenarios;
+    TZelComPtr<TComObjectMgr<CZel3DPath, IZel3DPath>> m3DPaths;
+    TZelComPtr<TObject2Mgr<CZelEnvironment, IZelEnvironment>> mEnvironments;
+    TZelComPtr<TObject2Mgr<CZelGround, IZelGround>> mGrounds;
+    TZelComPtr<TComObjectMgr<CZelLayer, IZelLayer>> mLayers;
     TZelComPtr<CDefinitionMgr> mDefinitions;
-    TZelComPtr<TPendingMgr<IZelExternalDefinition>> mExternalDefinitions;
+    TZelComPtr<TObject2Mgr<CZelExternalDefinition, IZelExternalDefinition>> mExternalDefinitions;
     CZelVersion mLibraryVersion;
     EVersionZEL mClientVersion;
     IZelFeedback* mFeedback;
@@ -191,6 +204,7 @@ private:
     TZelComPtr<CZelImage> mPreviewImage;
     TZelComPtr<CImages> mImages;
     TZelComPtr<CZelFileInfo> mFileInfo;
+    TZelStrongPtr<CZelLayerInfo> mLayerInfo;
     CZelRenderParameters mRenderParameters;
     const CZelVersion* mSaveVersion = nullptr;
     CDefinitionIndex mDefinitionIndex;

@@ -9,7 +9,11 @@
 #include "xml/CZelCancelled.h"
 #include "xml/CZelXMLGet.h"
 #include "xml/CZelXMLIO.h"
+#include "xml/listXML.h"
 #include "xml/tree/CXMLTreeReader.h"
+
+#include <set>
+#include <utility>
 
 using OrvaneXML::XIXMLElement;
 
@@ -31,6 +35,25 @@ bool guarded(CZEL& document, Operation operation)
         document.sendMessage("Unknown reading error");
     }
     return false;
+}
+
+/// A section that isn't there, or has no items, leaves its list as it stands.
+template <class Mgr>
+void readList(CZelXMLIO& io, const CZelXMLGet& in, const char* sectionTag, const char* itemTag,
+              Mgr& list)
+{
+    XIXMLElement* section = in.FindElement(sectionTag);
+    if (section != nullptr && CZelXMLGet(section).IsElement(itemTag))
+        getItems(io, section, itemTag, list);
+}
+
+/// A section that isn't there leaves its list as it stands; one without items empties it.
+template <class Mgr>
+void readWholeList(CZelXMLIO& io, const CZelXMLGet& in, const char* sectionTag, const char* itemTag,
+                   Mgr& list)
+{
+    if (XIXMLElement* section = in.FindElement(sectionTag))
+        getItems(io, section, itemTag, list);
 }
 
 } // namespace
@@ -64,8 +87,10 @@ bool CZEL::readDocument(IZelReadStream& stream, IZelExtStorageReader& reader)
     installTree(std::unique_ptr<OrvaneXML::XCXMLTree>(treeReader.ReadTree(&source)));
 
     CZelXMLIO io(mMgrRef.getPtr(), true);
+    io.setFileVersion(&mLibraryVersion);
     readSections(io, CZelXMLGet(mFileNode));
     layOutFixedElements();
+    mendComponents();
     return true;
 }
 
@@ -108,35 +133,86 @@ void CZEL::takeApplication(std::string text)
         mApplicationVersion = version.substr(0, end);
 }
 
-void CZEL::readSections(CZelXMLIO&, const CZelXMLGet& in)
+void CZEL::readSections(CZelXMLIO& io, const CZelXMLGet& in)
 {
     if (in.IsElement("File.Info"))
         mFileInfo->getFrom(CZelXMLGet(in.GetElement("File.Info")));
     if (in.IsElement("InternalComponentDefinitions"))
-        readDefinitions(CZelXMLGet(in.GetElement("InternalComponentDefinitions")));
-    OvThrow::IfNULL(in.FindElement("Working.Window"));
-    if (in.IsElement("Object.Definition")) {
-        const CZelXMLGet definition(in.GetElement("Object.Definition"));
-        definition.GetLanguages("Name", mRootDefinition->definitionName());
-    }
+        readDefinitions(io, CZelXMLGet(in.GetElement("InternalComponentDefinitions")));
+    readList(io, in, "Perspective.Views", "Perspective.View", *mCameras);
+    readList(io, in, "Heliodons", "Heliodon", *mHeliodons);
+    readList(io, in, "Parallel.Views", "Parallel.View", *mParallelViews);
+    readList(io, in, "PanoramasV2", "PanoramaV2", *mPanoramas);
+    for (std::int32_t i = 0; i < mPanoramas->size(); ++i)
+        mPanoramas->at(i)->removeDanglingLinks();
+    readList(io, in, "Animations", "Animation", *mAnimations);
+    readList(io, in, "View.Objects", "View.Object", *mViewObjects);
+    readList(io, in, "Billboards", "Billboard", *mBillboards);
+    readWholeList(io, in, "Properties", "Property", *mProperties);
+    readList(io, in, "Lights", "Light", *mLights);
+    readWholeList(io, in, "Lights.Groups", "Lights.Group", *mLightsGroups);
+    XIXMLElement* window = in.FindElement("Working.Window");
+    OvThrow::IfNULL(window);
+    readList(io, CZelXMLGet(window), "Parallel.Views", "Parallel.View", *mWorkingViews);
+    mRootDefinition->getDefinition(io, in.element());
+    readList(io, in, "Object.Instances", "Object.Instance", *mObjectInstances);
+    readList(io, in, "Scenarios", "Scenario", *mScenarios);
+    readPaths(io, in);
+    readList(io, in, "Grounds", "Ground", *mGrounds);
+    readList(io, in, "Layers", "Layer", *mLayers);
+    if (in.IsElement("Layers.Info"))
+        mLayerInfo->getFrom(io, CZelXMLGet(in.GetElement("Layers.Info")));
     if (in.IsElement("Tmp.Render.Parameters"))
         OvZel::getRenderParameters(mRenderParameters,
                                    CZelXMLGet(in.GetElement("Tmp.Render.Parameters")));
+    readList(io, in, "ExternalDefinitions", "External.Definition", *mExternalDefinitions);
 }
 
-void CZEL::readDefinitions(const CZelXMLGet& in)
+void CZEL::readDefinitions(CZelXMLIO& io, const CZelXMLGet& in)
 {
     // Their geometry blocks have made them; of two with one identifier the first is meant here.
-    std::map<CZelUUID, CZelZelObjectDefinition*> definitions;
+    std::set<std::pair<CZelUUID, std::int32_t>> places;
     for (std::int32_t i = 0; i < mDefinitions->size(); ++i)
-        definitions.emplace(*mDefinitions->at(i)->getId(), mDefinitions->at(i));
+        places.emplace(*mDefinitions->at(i)->getId(), i);
     for (XIXMLElement* wrapper = in.FindElement("InternalComponentDefinition"); wrapper != nullptr;
          wrapper = wrapper->GetNextSame()) {
         const CZelXMLGet item(wrapper);
-        const auto found = definitions.find(item.GetUUID("UUID"));
-        OvThrow::IfFalse(found != definitions.end());
-        found->second->setGeometryLevel(item.GetInteger("Geometry.Level"));
+        const CZelUUID id = item.GetUUID("UUID");
+        const auto found = places.lower_bound({id, 0});
+        OvThrow::IfFalse(found != places.end() && found->first == id);
+        const std::int32_t place = found->second;
+        CZelZelObjectDefinition& definition = *mDefinitions->at(place);
+        definition.setGeometryLevel(item.GetInteger("Geometry.Level"));
+        definition.getDefinition(io, wrapper);
+        // What is inside may give it another identifier.
+        places.erase(found);
+        places.emplace(*definition.getId(), place);
     }
+}
+
+void CZEL::readPaths(CZelXMLIO& io, const CZelXMLGet& in)
+{
+    // The old name of the section wins over the present one, which it takes.
+    XIXMLElement* section = in.FindElement("3D.Paths");
+    if (section != nullptr)
+        section->SetKey(section->MakeKey("Paths.3D"));
+    else
+        section = in.FindElement("Paths.3D");
+    if (section != nullptr)
+        getItems(io, section, "Path.3D", *m3DPaths);
+}
+
+/// Early libraries had one component, and its instance did not name it.
+void CZEL::mendComponents()
+{
+    constexpr CZelVersion kNamesComponents{3, 0, 1};
+    if (!(mLibraryVersion < kNamesComponents) || mDefinitions->size() == 0 ||
+        mObjectInstances->size() == 0)
+        return;
+    IZelInternalComponentInstance* component =
+        mObjectInstances->at(0)->asInternalComponentInstance();
+    if (component != nullptr && component->getComponentUUID().isNull())
+        component->setComponentUUID(*mDefinitions->at(0)->getId());
 }
 
 void CZEL::readCData(IZelReadStream* stream, IZelExtStorageReader* reader)

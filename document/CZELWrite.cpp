@@ -11,6 +11,7 @@
 #include "xml/CZelXMLAdd.h"
 #include "xml/CZelXMLGet.h"
 #include "xml/CZelXMLIO.h"
+#include "xml/listXML.h"
 
 using OrvaneXML::XIXMLData;
 using OrvaneXML::XIXMLElement;
@@ -38,72 +39,6 @@ private:
     T& mPlace;
     T mOld;
 };
-
-/// Gives a child with that tag an empty text or a new one, in its place.
-void renewText(XIXMLElement& parent, const char* tag, const std::string& text)
-{
-    const OrvaneXML::XCXMLKey key = parent.MakeKey(tag);
-    XIXMLElement* child = parent.FindElement(key);
-    if (child == nullptr)
-        child = parent.AddElement(key);
-    child->GetNode()->SetText(text.c_str());
-}
-
-/// A fresh carrier of a block in front of the given node; those that were there go.
-void renewBlock(XIXMLElement& wrapper, const char* tag, XIXMLData* before,
-                XIXMLData::IXMLCData* provider)
-{
-    XIXMLElement* block = CZelXMLAdd(&wrapper).AddElement(tag);
-    block->SetCData(provider);
-    wrapper.InsertChild(block->GetNode(), before);
-}
-
-/// Destroys the elements of that name behind the given one.
-void destroyOthers(XIXMLElement& first)
-{
-    for (XIXMLElement* other = first.GetNextSame(); other != nullptr;) {
-        XIXMLElement* next = other->GetNextSame();
-        other->Destroy();
-        other = next;
-    }
-}
-
-/// Null for a wrapper that a failed load left without a good identifier: no definition has it.
-CZelUUID idOf(XIXMLElement& wrapper)
-{
-    try {
-        return CZelXMLGet(&wrapper).GetUUID("UUID");
-    } catch (const std::exception&) {
-        return {};
-    }
-}
-
-bool sameTexts(const IZelString& string, XIXMLElement& element)
-{
-    OrvaneXML::XIXMLAttribute* attribute = element.GetFirstAttribute();
-    for (std::uint32_t i = 0; i < string.getNbTexts(); ++i) {
-        if (attribute == nullptr)
-            return false;
-        const std::uint32_t key = string.getLanguageKey(i);
-        const char name[] = {static_cast<char>(key >> 8 & 0xFF), static_cast<char>(key & 0xFF), 0};
-        if (attribute->GetKey() != name ||
-            std::string_view(attribute->GetValue()) != string.getText(key))
-            return false;
-        attribute = attribute->GetNext();
-    }
-    return attribute == nullptr;
-}
-
-/// The wrappers of a section and of those of the same name behind it, by identifier.
-std::multimap<CZelUUID, XIXMLElement*> collectWrappers(XIXMLElement& section)
-{
-    std::multimap<CZelUUID, XIXMLElement*> wrappers;
-    for (XIXMLElement* each = &section; each != nullptr; each = each->GetNextSame())
-        for (XIXMLElement* child = CZelXMLGet(each).FindElement("InternalComponentDefinition");
-             child != nullptr; child = child->GetNextSame())
-            wrappers.emplace(idOf(*child), child);
-    return wrappers;
-}
 
 } // namespace
 
@@ -163,17 +98,34 @@ void CZEL::writeImages()
     }
 }
 
-void CZEL::writeSections(CZelXMLIO&)
+void CZEL::writeSections(CZelXMLIO& io)
 {
     for (const char* legacy :
          {"Heliodon", "Image", "Preview", "Ambient", "Atmosphere", "Background", "Panoramas"})
         destroySections(legacy);
     writeFileInfo();
-    writeDefinitions();
-    writeRootName();
+    writeDefinitions(io);
+    addItems(io, renewSection("Heliodons"), "Heliodon", *mHeliodons);
+    addItems(io, renewSection("Properties"), "Property", *mProperties);
+    addItems(io, renewSection("Billboards"), "Billboard", *mBillboards);
+    addItems(io, renewSection("Lights"), "Light", *mLights);
+    addItems(io, renewSection("Lights.Groups"), "Lights.Group", *mLightsGroups);
+    addItems(io, renewSection("Perspective.Views"), "Perspective.View", *mCameras);
+    addItems(io, renewSection("Parallel.Views"), "Parallel.View", *mParallelViews);
+    addItems(io, renewSection("PanoramasV2"), "PanoramaV2", *mPanoramas);
+    addItems(io, renewSection("Animations"), "Animation", *mAnimations);
+    addItems(io, renewSection("View.Objects"), "View.Object", *mViewObjects);
+    mRootDefinition->addTo(io, CZelXMLAdd(renewSection("Object.Definition")));
+    addItems(io, renewSection("Object.Instances"), "Object.Instance", *mObjectInstances);
+    addItems(io, renewSection("Scenarios"), "Scenario", *mScenarios);
+    addItems(io, renewSection("Paths.3D"), "Path.3D", *m3DPaths);
+    addItems(io, renewSection("Grounds"), "Ground", *mGrounds);
+    addItems(io, renewSection("Layers"), "Layer", *mLayers);
+    mLayerInfo->addTo(io, CZelXMLAdd(renewSection("Layers.Info")));
     addRenderParameters(mRenderParameters, CZelXMLAdd(renewSection("Tmp.Render.Parameters")));
     destroySections("Current.Id");
-    writeWorkingWindow();
+    addItems(io, renewSection("ExternalDefinitions"), "External.Definition", *mExternalDefinitions);
+    writeWorkingWindow(io);
 }
 
 void CZEL::writeFileInfo()
@@ -184,69 +136,32 @@ void CZEL::writeFileInfo()
     mFileInfo->addTo(CZelXMLAdd(info != nullptr ? info : file->AddElement(key)));
 }
 
-void CZEL::writeDefinitions()
+void CZEL::writeDefinitions(CZelXMLIO& io)
 {
-    XIXMLElement* section = CZelXMLGet(fileNode()).FindElement("InternalComponentDefinitions");
-    if (section == nullptr)
+    if (!CZelXMLGet(fileNode()).IsElement("InternalComponentDefinitions"))
         return;
     if (mDefinitions->size() > 0 && (mPoints->size() > 0 || mPolygons->size() > 0))
         sendMessage("Document geometry isn't written: internal components are present");
 
-    // A wrapper from the file keeps what else stands in it.
-    std::multimap<CZelUUID, XIXMLElement*> wrappers = collectWrappers(*section);
+    const CZelXMLAdd section(renewSection("InternalComponentDefinitions"));
     for (std::int32_t i = 0; i < mDefinitions->size(); ++i) {
-        const CZelZelObjectDefinition& definition = *mDefinitions->at(i);
-        XIXMLElement* wrapper;
-        if (const auto known = wrappers.find(*definition.getId()); known != wrappers.end()) {
-            wrapper = known->second;
-            wrappers.erase(known);
-        } else {
-            wrapper = CZelXMLAdd(section).AddElement("InternalComponentDefinition");
-        }
-        section->InsertChild(wrapper->GetNode(), nullptr);
-        writeWrapper(*wrapper, definition);
+        CZelZelObjectDefinition& definition = *mDefinitions->at(i);
+        const CZelXMLAdd wrapper(section.AddElement("InternalComponentDefinition"));
+        wrapper.AddUUID("UUID", *definition.getId());
+        wrapper.AddInteger("Geometry.Level", definition.getGeometryLevel());
+        wrapper.AddElement("Points")->SetCData(new CPointsProvider(this));
+        wrapper.AddElement("Polygons")->SetCData(new CPolygonsProvider(this));
+        definition.addDefinition(io, wrapper.element());
     }
-    for (const auto& [id, wrapper] : wrappers)
-        wrapper->Destroy();
-    destroyOthers(*section);
 }
 
-void CZEL::writeWrapper(XIXMLElement& wrapper, const CZelZelObjectDefinition& definition)
+void CZEL::writeWorkingWindow(CZelXMLIO& io)
 {
-    const CZelXMLAdd out(&wrapper);
-    out.AddUUID("UUID", *definition.getId());
-    renewText(wrapper, "Geometry.Level", std::to_string(definition.getGeometryLevel()));
-    out.DestroyElements("Points");
-    out.DestroyElements("Polygons");
-    XIXMLData* next = CZelXMLGet(&wrapper).GetElement("Geometry.Level")->GetNode()->GetNextNode();
-    renewBlock(wrapper, "Points", next, new CPointsProvider(this));
-    renewBlock(wrapper, "Polygons", next, new CPolygonsProvider(this));
-}
-
-void CZEL::writeWorkingWindow()
-{
-    XIXMLElement* window = CZelXMLGet(fileNode()).FindElement("Working.Window");
-    if (window == nullptr) {
-        window = CZelXMLAdd(fileNode()).AddElement("Working.Window");
-        CZelXMLAdd(window).AddElement("Parallel.Views");
-    }
-    // Only the first one was ever read. It always goes to the end, behind what this save adds, so
-    // that the next save finds nothing to move.
-    destroyOthers(*window);
-    fileNode()->InsertChild(window->GetNode(), nullptr);
-}
-
-void CZEL::writeRootName()
-{
-    XIXMLElement* definition = CZelXMLGet(fileNode()).FindElement("Object.Definition");
-    XIXMLElement* old =
-        definition != nullptr ? CZelXMLGet(definition).FindElement("Name") : nullptr;
-    const IZelString& name = mRootDefinition->definitionName();
-    if (old == nullptr || sameTexts(name, *old))
-        return;
-    XIXMLElement* fresh = CZelXMLAdd(definition).AddLanguages("Name", name);
-    definition->InsertChild(fresh->GetNode(), old->GetNode());
-    old->Destroy();
+    // It always goes to the end, behind what this save adds, so that the next save finds nothing to
+    // move.
+    destroySections("Working.Window");
+    const CZelXMLAdd window(CZelXMLAdd(fileNode()).AddElement("Working.Window"));
+    addItems(io, window.AddElement("Parallel.Views"), "Parallel.View", *mWorkingViews);
 }
 
 void CZEL::renewInstructions()

@@ -9,6 +9,7 @@
 #include "document/CZEL.h"
 #include "document/CZELXMLReadStream.h"
 #include "document/versions.h"
+#include "import/importReference.h"
 
 #include <cstdio>
 
@@ -193,6 +194,11 @@ void IZelMgr::readFileInfo(IZelFileInfo** out, IZelReadStream* stream)
     } catch (...) {
         // The client's stream would not go back to its position: no answer.
     }
+}
+
+void IZelMgr::doImportReference(IZelMgr* destination, IZelMgr* source, std::int32_t flags)
+{
+    importReference(destination, source, flags);
 }
 
 } // namespace OvZel

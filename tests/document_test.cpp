@@ -146,62 +146,52 @@ TEST(Document, ANewOneIsEmpty)
 }
 
 template <class T>
-void expectPending(CClientDocument& document, TZelObjectMgr<T>* list, const char* name)
+void expectList(CClientDocument& document, TZelObjectMgr<T>* list, std::int32_t nb,
+                const char* name)
 {
     ASSERT_NE(list, nullptr) << name;
-    EXPECT_EQ(list->getNbObjects(), 0) << name;
-    EXPECT_EQ(list->newZelObject(-1), nullptr) << name;
-    EXPECT_THAT(document.takeMessages(), ElementsAre("newZelObject: Can't allocate object"))
+    EXPECT_EQ(list->getNbObjects(), nb) << name;
+    EXPECT_EQ(list->getZelObject(nb), nullptr) << name;
+    list->removeObject(nb);
+    EXPECT_EQ(list->newZelObject(nb + 1), nullptr) << name;
+    EXPECT_THAT(document.takeMessages(),
+                ElementsAre("getZelObject: Bad index value", "removeObject: Bad index value",
+                            "newZelObject: Bad index value"))
         << name;
-    EXPECT_EQ(list->newZelObject(1), nullptr) << name;
-    EXPECT_THAT(document.takeMessages(), ElementsAre("newZelObject: Bad index value")) << name;
-    EXPECT_EQ(list->getZelObject(0), nullptr) << name;
-    EXPECT_THAT(document.takeMessages(), ElementsAre("getZelObject: Bad index value")) << name;
-    list->removeObject(-1);
-    EXPECT_THAT(document.takeMessages(), ElementsAre("removeObject: Bad index value")) << name;
-    list->removeAllObjects();
-    EXPECT_THAT(document.takeMessages(), IsEmpty()) << name;
+    T* made = list->newZelObject(-1);
+    ASSERT_NE(made, nullptr) << name;
+    EXPECT_EQ(list->getZelObject(nb), made) << name;
     EXPECT_EQ(list->getObjectLink()->getMgrRef()->getMgr(), document.get()) << name;
+    list->removeAllObjects();
+    EXPECT_EQ(list->getNbObjects(), 0) << name;
+    EXPECT_THAT(document.takeMessages(), IsEmpty()) << name;
 }
 
-TEST(Document, ListsWithoutAClassAreEmptyAndRefuse)
+TEST(Document, ANewOneHasOneHeliodonAndNothingElse)
 {
     CClientDocument document;
-    expectPending(document, document->getCameras(), "cameras");
-    expectPending(document, document->getProperties(), "properties");
-    expectPending(document, document->getLights(), "lights");
-    expectPending(document, document->getViewObjects(), "view objects");
-    expectPending(document, document->getParallelViews(), "parallel views");
-    expectPending(document, document->getHeliodons(), "heliodons");
-    expectPending(document, document->getLightsGroups(), "lights groups");
-    expectPending(document, document->getObjectInstances(), "object instances");
-    expectPending(document, document->getScenarios(), "scenarios");
-    expectPending(document, document->get3DPaths(), "3D paths");
-    expectPending(document, document->getEnvironments(), "environments");
-    expectPending(document, document->getGrounds(), "grounds");
-    expectPending(document, document->getLayers(), "layers");
-    expectPending(document, document->getPanoramas(), "panoramas");
-    expectPending(document, document->getExternalDefinitions(), "external definitions");
-    expectPending(document, document.more().getAnimations(), "animations");
-    expectPending(document, document.more().getBillboards(), "billboards");
-    expectPending(document, document.more().getWorkingViews(), "working views");
-}
-
-TEST(Document, WithoutPropertiesThereAreNoShaders)
-{
-    CClientDocument document;
-    IZelMgrEx& more = document.more();
-    EXPECT_EQ(more.newShader(), nullptr);
-    EXPECT_THAT(document.takeMessages(), ElementsAre("newZelObject: Can't allocate object"));
-    more.removeShader(nullptr);
-    EXPECT_THAT(document.takeMessages(), IsEmpty());
-    CMemoryReadStream input(zelFile(""));
-    EXPECT_FALSE(more.readShader(nullptr, &input));
-    EXPECT_EQ(document.takeMessages().size(), 1U);
-    CMemoryWriteStream output;
-    EXPECT_FALSE(more.writeShader(nullptr, &output));
-    EXPECT_EQ(document.takeMessages().size(), 1U);
-    EXPECT_EQ(output.text, "");
+    expectList(document, document->getHeliodons(), 1, "heliodons");
+    expectList(document, document->getCameras(), 0, "cameras");
+    expectList(document, document->getProperties(), 0, "properties");
+    expectList(document, document->getLights(), 0, "lights");
+    expectList(document, document->getViewObjects(), 0, "view objects");
+    expectList(document, document->getParallelViews(), 0, "parallel views");
+    expectList(document, document->getLightsGroups(), 0, "lights groups");
+    expectList(document, document->getObjectInstances(), 0, "object instances");
+    expectList(document, document->getEnvironments(), 0, "environments");
+    expectList(document, document->getGrounds(), 0, "grounds");
+    expectList(document, document->getLayers(), 0, "layers");
+    expectList(document, document->getExternalDefinitions(), 0, "external definitions");
+    expectList(document, document->getImages(), 0, "images");
+    expectList(document, document->getScenarios(), 0, "scenarios");
+    expectList(document, document->get3DPaths(), 0, "3D paths");
+    expectList(document, document->getPanoramas(), 0, "panoramas");
+    expectList(document, document.more().getAnimations(), 0, "animations");
+    expectList(document, document->getDefinitions(), 0, "definitions");
+    expectList(document, document->getPolygons(), 0, "polygons");
+    expectList(document, document.more().getBillboards(), 0, "billboards");
+    expectList(document, document.more().getWorkingViews(), 0, "working views");
+    EXPECT_TRUE(document->getLayerInfo()->getActiveLayer().isNull());
 }
 
 TEST(Document, MeshesOfItsOwnCanBeEdited)

@@ -1,8 +1,17 @@
 #include "tests/support/CClientDocument.h"
 #include "tests/support/peakMemory.h"
 #include "tests/support/repeated.h"
+#include "tests/support/savedText.h"
 #include "tests/support/smallScene.h"
 #include "tests/support/zelFile.h"
+
+#include <zel/IZelAnimatedElement.h>
+#include <zel/IZelBasicData.h>
+#include <zel/IZelInterpolatedValue.h>
+#include <zel/IZelLight.h>
+#include <zel/IZelPanoNodeV2.h>
+#include <zel/IZelPanoramaV2.h>
+#include <zel/IZelScenario.h>
 
 #include <gtest/gtest.h>
 
@@ -100,6 +109,31 @@ std::string inSection(const char* tag, const std::string& content)
 constexpr const char* kOuterId = "BE47E8B0CAAACD0F6FBF214CEB78CD7F";
 constexpr const char* kInnerId = "CE47E8B0CAAACD0F6FBF214CEB78CD7F";
 
+/// The scene's definition with this inside, and all that lets it be read.
+std::string scene(const std::string& inside)
+{
+    return "<Object.Definition Placement='Vertical' LightGroupID='" + ZelTest::kNoId +
+           "'><Class en='ModelObject'/>" + inside +
+           "<Anchor X='0' Y='0' Z='0'/><Up X='0' Y='0' Z='1'/><Object.Data/></Object.Definition>";
+}
+
+/// A section of a document in which the client has made something, with this for the first element
+/// of that name.
+std::string madeSection(const char* name, const std::function<void(CClientDocument&)>& make,
+                        const std::string& tag, const std::string& content)
+{
+    CClientDocument document;
+    make(document);
+    std::string text = ZelTest::sectionOf(document.save(), name);
+    const ZelTest::CExtent found = ZelTest::extentOf(text, tag);
+    return text.replace(found.begin, found.end - found.begin, inSection(tag.c_str(), content));
+}
+
+std::string withId(const char* tag, const char* id)
+{
+    return std::string("<") + tag + " UUID='" + id + "'/>";
+}
+
 struct CLarge {
     const char* name;
     std::function<std::string(int)> content;
@@ -138,14 +172,14 @@ const CLarge kLarge[] = {
      }},
     {"Languages",
      [](int nb) {
-         return "<Object.Definition><Name" +
-                pieces(nb,
-                       [](int i) {
-                           const char name[] = {' ', static_cast<char>('A' + i % 26),
-                                                static_cast<char>('A' + i / 26 % 26), 0};
-                           return name + std::string("=''");
-                       }) +
-                "/></Object.Definition>";
+         return scene("<Name" +
+                      pieces(nb,
+                             [](int i) {
+                                 const char name[] = {' ', static_cast<char>('A' + i % 26),
+                                                      static_cast<char>('A' + i / 26 % 26), 0};
+                                 return name + std::string("=''");
+                             }) +
+                      "/>");
      }},
     {"Names", [](int nb) { return pieces(nb, [](int i) { return "<n" + numberedId(i) + "/>"; }); }},
     {"SectionsToDrop", [](int nb) { return repeated("<a/>", nb) + repeated("<Heliodon/>", nb); }},
@@ -178,14 +212,14 @@ const CLarge kLarge[] = {
      }},
     {"AllLanguages",
      [](int nb) {
-         return "<Object.Definition><Name" +
-                pieces(nb / 2,
-                       [](int i) {
-                           const char name[] = {' ', static_cast<char>(128 + i % 128),
-                                                static_cast<char>(128 + i / 128 % 128), 0};
-                           return name + std::string("=''");
-                       }) +
-                "/></Object.Definition>";
+         return scene("<Name" +
+                      pieces(nb / 2,
+                             [](int i) {
+                                 const char name[] = {' ', static_cast<char>(128 + i % 128),
+                                                      static_cast<char>(128 + i / 128 % 128), 0};
+                                 return name + std::string("=''");
+                             }) +
+                      "/>");
      }},
     {"UnknownSections", [](int nb) { return repeated("<a><![CDATA[b]]></a>", nb); }},
     {"SectionsOfOneElement", [](int nb) { return inSection("a", repeated("<![CDATA[b]]>", nb)); }},
@@ -200,6 +234,55 @@ const CLarge kLarge[] = {
     {"Holes",
      [](int nb) {
          return section("Polygons", "1 h 0 " + std::to_string(nb) + " " + repeated("1 0 ", nb));
+     }},
+    {"Layers",
+     [](int nb) {
+         return inSection("Layers", pieces(nb, [](int i) {
+                              return "<Layer UUID='" + numberedId(i) + "'><Name en='a'/></Layer>";
+                          }));
+     }},
+    {"GroupsOfALight",
+     [](int nb) {
+         const auto make = [](CClientDocument& document) {
+             *document->getLights()->newZelObject(-1)->getLightsGroups()->newZelObject(-1) =
+                 CZelUUID(kOuterId);
+         };
+         return madeSection("Lights", make, "Lights.Groups",
+                            repeated(withId("Light", kOuterId), nb));
+     }},
+    {"LinksOfAPanorama", // those that lead nowhere in front of those that stay
+     [](int nb) {
+         const auto links = [&](const char* end) {
+             return repeated("<PanoV2.Link>" + withId("Start", kOuterId) + withId("End", end) +
+                                 withId("Path.Id", kOuterId) + "</PanoV2.Link>",
+                             nb / 2);
+         };
+         const auto make = [](CClientDocument& document) {
+             const CZelUUID id(kOuterId);
+             document->getPanoramas()
+                 ->newZelObject(-1)
+                 ->getNodes()
+                 ->newZelObject(-1)
+                 ->getBasicData()
+                 ->setId(&id);
+         };
+         return madeSection("PanoramasV2", make, "PanoV2.Links", links(kInnerId) + links(kOuterId));
+     }},
+    {"KeyFrames",
+     [](int nb) {
+         const auto make = [](CClientDocument& document) {
+             IZelAnimatedElement* element =
+                 document->getScenarios()->newZelObject(-1)->getAnimatedElements()->newZelObject(
+                     -1);
+             element->setElementType(5);
+             element->getInterpolatedValues()->newZelObject(-1)->setChannel(240);
+         };
+         return madeSection(
+             "Scenarios", make, "KeyFrames",
+             repeated("<KeyFrame Type='Integer' Interpolation.Type='Linear'>"
+                      "<Time>0</Time><Visible/><Value>0</Value><CPBefore>0</CPBefore>"
+                      "<CPAfter>0</CPAfter><AreLocked/></KeyFrame>",
+                      nb / 4));
      }},
 };
 
@@ -216,7 +299,7 @@ double secondsFor(const std::string& text)
     const double start = processorSeconds();
     {
         CClientDocument document;
-        EXPECT_TRUE(document.read(text));
+        EXPECT_TRUE(document.read(text)) << document.takeMessages().front();
         document.readCData(text);
         EXPECT_TRUE(document.write());
     }

@@ -245,18 +245,31 @@ TEST(Load, TakesIdentifierAndOriginOfTheFile)
 
 TEST(Load, TakesTheNameOfTheScene)
 {
+    const auto scene = [](const std::string& more) {
+        return zelFile("<Object.Definition Placement=\"Vertical\" LightGroupID=\"" + kNoId + "\">" +
+                       more +
+                       "<Anchor X=\"0\" Y=\"0\" Z=\"0\"/><Up X=\"0\" Y=\"0\" Z=\"1\"/>"
+                       "<Object.Data/></Object.Definition>");
+    };
+    const std::string kind = "<Class en=\"ModelObject\"/>";
     CClientDocument document;
     IZelString* name = document->getObjectDefinition()->getName();
-    EXPECT_TRUE(document.read(zelFile("<Object.Definition><Name en=\"House\" de=\"Haus\"/>"
-                                      "</Object.Definition>")));
+    EXPECT_TRUE(document.read(scene(kind + "<Name en=\"House\" de=\"Haus\"/>")));
     EXPECT_EQ(name->getNbTexts(), 2U);
     EXPECT_STREQ(name->getText(0x6465), "Haus");
-    EXPECT_TRUE(document.read(zelFile("<Object.Definition/>")));
+    EXPECT_TRUE(document.read(scene(kind)));
     EXPECT_EQ(name->getNbTexts(), 2U);
-    EXPECT_TRUE(document.read(zelFile("<Object.Definition><Name fr=\"M\"/></Object.Definition>")));
+    // A definition without a class isn't read.
+    EXPECT_TRUE(document.read(scene("<Name fr=\"M\"/>")));
+    EXPECT_EQ(name->getNbTexts(), 2U);
+    EXPECT_TRUE(document.read(zelFile("<Object.Definition/>")));
+    EXPECT_TRUE(document.read(zelFile("")));
+    EXPECT_EQ(name->getNbTexts(), 2U);
+    EXPECT_TRUE(document.read(scene(kind + "<Name fr=\"M\"/>")));
     EXPECT_EQ(name->getNbTexts(), 1U);
-    EXPECT_TRUE(document.read(zelFile("<Object.Definition><Name/></Object.Definition>")));
+    EXPECT_TRUE(document.read(scene(kind + "<Name/>")));
     EXPECT_EQ(name->getNbTexts(), 0U);
+    EXPECT_THAT(document.takeMessages(), IsEmpty());
 }
 
 TEST(Load, TheOldTreeStaysUntilTheNewOneIsWhole)
@@ -431,6 +444,21 @@ TEST(Load, OfDefinitionsWithOneIdentifierTheLastTakesTheBlockAndTheFirstTheLevel
         document->getDefinitions()->newZelObject(-1)->getBasicData()->setId(&id);
     EXPECT_TRUE(document.read(zelFile(components(wrapper(kIdA, 4, points({1}))))));
     EXPECT_THAT(definitionsOf(document), ElementsAre("A 4:", "A 0: 1"));
+}
+
+TEST(Load, ADefinitionIsFoundByTheIdentifierThatItHasByThen)
+{
+    CClientDocument document;
+    const std::string renamed =
+        "<Object.Definition UUID=\"" + kIdB + "\" LightGroupID=\"" + kNoId +
+        "\" Placement=\"Vertical\"><Class en=\"ModelObject\"/><Anchor/><Up/>"
+        "<Object.Data/></Object.Definition>";
+    EXPECT_TRUE(document.read(zelFile(
+        components(wrapper(kIdA, 1, points({1}) + renamed) + wrapper(kIdB, 4, points({2}))))));
+    EXPECT_THAT(definitionsOf(document), ElementsAre("B 4: 1", "B 4: 2"));
+    EXPECT_FALSE(
+        document.read(zelFile(components(wrapper(kIdB, 1, renamed) + wrapper(kIdA, 4, "")))));
+    EXPECT_THAT(document.takeMessages(), ElementsAre("Unknown exception"));
 }
 
 TEST(Load, AWrapperThatNoDefinitionBelongsToEndsTheLoad)

@@ -463,7 +463,10 @@ TEST(ReadMediaInfo, LeavesEverythingElseAsItIs)
                                               "</Object.Definition><Images><Image><![CDATA[" +
                                               std::string(kPixel) + "]]></Image></Images>"));
     EXPECT_TRUE(document->readMediaInfo(&stream));
-    EXPECT_EQ(document.save(), before);
+    std::string named = before;
+    const std::size_t scene = named.find("<Object.Definition ");
+    named.replace(named.find("<Name/>", scene), 7, "<Name en=\"House\"/>");
+    EXPECT_EQ(document.save(), named);
     EXPECT_EQ(document->getImages()->getNbObjects(), 0);
     EXPECT_EQ(*document->getLibraryVersion(), CZelVersion());
     EXPECT_TRUE(document->readMediaInfo(nullptr));

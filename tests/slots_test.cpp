@@ -1,48 +1,14 @@
-#include "tests/support/vtable.h"
+#include "tests/support/slots.h"
 
 #include <zel/IZelMgr.h>
 
 #include <gtest/gtest.h>
 
-#include <string>
 #include <vector>
 
 using namespace OvZel;
+using ZelTest::expectOrder;
 using ZelTest::slotOf;
-
-// Compiled clients call operations by these numbers. A change here breaks every one of them.
-
-namespace {
-
-struct CSlot {
-    const char* name;
-    std::ptrdiff_t slot;
-};
-
-/// The operations follow each other from the first slot on, without a gap.
-void expectOrder(std::ptrdiff_t first, const std::vector<CSlot>& slots)
-{
-    for (const CSlot& entry : slots)
-        EXPECT_EQ(entry.slot, first++) << entry.name;
-}
-
-} // namespace
-
-#define AT(operation)                                                                              \
-    CSlot                                                                                          \
-    {                                                                                              \
-#operation, slotOf(&operation)                                                             \
-    }
-#define CONST_AT(result, operation)                                                                \
-    CSlot                                                                                          \
-    {                                                                                              \
-#operation " const", slotOf < result() const>(&operation)                                  \
-    }
-#define OTHER_AT(result, operation)                                                                \
-    CSlot                                                                                          \
-    {                                                                                              \
-#operation, slotOf < result()>(&operation)                                                 \
-    }
 
 TEST(Slots, IUnknown)
 {
@@ -111,7 +77,7 @@ TEST(Slots, IZelMgrRef)
 
 TEST(Slots, IZelMgr)
 {
-    const std::vector<CSlot> slots = {
+    const std::vector<ZelTest::CSlot> slots = {
         AT(IZelMgr::setApplication),
         AT(IZelMgr::getApplicationName),
         AT(IZelMgr::getApplicationVersion),
@@ -237,24 +203,6 @@ TEST(Slots, IZelQuad)
     EXPECT_EQ(slotOf(&IZelQuad::setValue), -1);
 }
 
-TEST(Slots, IZelZelObjectDefinitionHasItsOperationsInTheirFinalOrder)
-{
-    using IDefinition = IZelZelObjectDefinition;
-    using TPoints = TZelObjectMgr<CZelPoint>;
-    using TPolygons = TZelObjectMgr<IZelPolygon>;
-    const std::vector<CSlot> slots = {
-        CONST_AT(const IZelString*, IDefinition::getName),
-        OTHER_AT(IZelString*, IDefinition::getName),
-        CONST_AT(const TPoints*, IDefinition::getPoints),
-        OTHER_AT(TPoints*, IDefinition::getPoints),
-        CONST_AT(const TPolygons*, IDefinition::getPolygons),
-        OTHER_AT(TPolygons*, IDefinition::getPolygons),
-        AT(IDefinition::getGeometryLevel),
-        AT(IDefinition::setGeometryLevel),
-    };
-    expectOrder(7, slots);
-}
-
 TEST(Slots, Streams)
 {
     expectOrder(0, {AT(IZelReadStream::read), AT(IZelReadStream::getPosition),
@@ -304,7 +252,6 @@ TEST(SlotsDeathTest, BehindEachInterfaceOfADocumentStandThreeObsoleteOnes)
         {"IZelMgrRef", document->getObjectLink()->getMgrRef(), 11},
         {"a list of objects", document->getImages(), 15},
         {"a list of records", document->getPoints(), 15},
-        {"a list without elements", document->getLights(), 15},
         {"IZelImage", document->getPreviewImage(), 11},
         {"IZelFileInfo", document->getFileInfo(), 9},
         {"IZelPolygon", document->getPolygons()->newZelObject(-1), 7},

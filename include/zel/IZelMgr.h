@@ -1,33 +1,126 @@
 #pragma once
 
+#include <zel/CZelBox.h>
+#include <zel/CZelColor.h>
+#include <zel/CZelPixel2D.h>
 #include <zel/CZelPoint.h>
+#include <zel/CZelPoint2D.h>
 #include <zel/CZelRenderParameters.h>
 #include <zel/CZelUUID.h>
 #include <zel/CZelVersion.h>
 #include <zel/CZelVertex.h>
+#include <zel/IAltitudeNode.h>
+#include <zel/IChessNode.h>
+#include <zel/ICustomNode.h>
+#include <zel/IFresnelDiffuseNode.h>
+#include <zel/IFresnelNode.h>
+#include <zel/IGlazingNode.h>
+#include <zel/ILeafNode.h>
+#include <zel/IMappingNode.h>
+#include <zel/IMatteShadowNode.h>
+#include <zel/IMultiTextureNode.h>
+#include <zel/IRootNode.h>
+#include <zel/ITCENode.h>
 #include <zel/ITable.h>
+#include <zel/ITurbulenceNode.h>
 #include <zel/IUnknown.h>
+#include <zel/IWangTilesNode.h>
+#include <zel/IZel3DPath.h>
+#include <zel/IZel3DPlant.h>
+#include <zel/IZel3DPlantRef.h>
+#include <zel/IZelAnimatedElement.h>
+#include <zel/IZelAnimatedObject.h>
+#include <zel/IZelAnimatedObjectInstance.h>
+#include <zel/IZelAnimation.h>
+#include <zel/IZelAtmosphere.h>
+#include <zel/IZelBBMgrData.h>
+#include <zel/IZelBBObjectInstance.h>
+#include <zel/IZelBackground.h>
+#include <zel/IZelBackgroundPicture.h>
 #include <zel/IZelBasic.h>
 #include <zel/IZelBasicData.h>
+#include <zel/IZelBezierPoint.h>
+#include <zel/IZelBillboard.h>
+#include <zel/IZelCamKey.h>
+#include <zel/IZelCamera.h>
+#include <zel/IZelCameraLight.h>
+#include <zel/IZelCameraPath.h>
+#include <zel/IZelClippingBox.h>
+#include <zel/IZelClouds.h>
+#include <zel/IZelCompressionOpt.h>
+#include <zel/IZelDepthOfField.h>
+#include <zel/IZelEngineOptions.h>
+#include <zel/IZelEnvironment.h>
+#include <zel/IZelExposureFilter.h>
 #include <zel/IZelExtStorageReader.h>
 #include <zel/IZelExtStorageWriter.h>
+#include <zel/IZelExternalDefinition.h>
 #include <zel/IZelFeedback.h>
 #include <zel/IZelFileInfo.h>
+#include <zel/IZelFilters.h>
+#include <zel/IZelFog.h>
+#include <zel/IZelForeground.h>
+#include <zel/IZelGodRays.h>
+#include <zel/IZelGrainFilter.h>
+#include <zel/IZelGround.h>
+#include <zel/IZelGroupInstances.h>
+#include <zel/IZelHatchingFilter.h>
+#include <zel/IZelHeliodon.h>
 #include <zel/IZelImage.h>
+#include <zel/IZelImageSettingsFilter.h>
+#include <zel/IZelInsertionObject.h>
+#include <zel/IZelInternalComponentInstance.h>
+#include <zel/IZelInterpolatedValue.h>
+#include <zel/IZelKeyFrame.h>
+#include <zel/IZelLaser.h>
+#include <zel/IZelLayer.h>
+#include <zel/IZelLayerInfo.h>
+#include <zel/IZelLensFlare.h>
+#include <zel/IZelLight.h>
+#include <zel/IZelLightCone.h>
+#include <zel/IZelLightsGroup.h>
 #include <zel/IZelMgrEx.h>
 #include <zel/IZelMgrRef.h>
+#include <zel/IZelMultiMaps.h>
+#include <zel/IZelObjectInstance.h>
+#include <zel/IZelObjectLight.h>
+#include <zel/IZelObjectLightRef.h>
 #include <zel/IZelObjectLink.h>
+#include <zel/IZelObjectLinkRef.h>
+#include <zel/IZelObjectMgrBase.h>
+#include <zel/IZelPanoLinkV2.h>
+#include <zel/IZelPanoNodeV2.h>
+#include <zel/IZelPanoramaV2.h>
+#include <zel/IZelParallelView.h>
 #include <zel/IZelPlace.h>
 #include <zel/IZelPolygon.h>
+#include <zel/IZelProperty.h>
 #include <zel/IZelQuad.h>
+#include <zel/IZelRadiosityControl.h>
 #include <zel/IZelReadStream.h>
+#include <zel/IZelRenderingOpt.h>
+#include <zel/IZelScenario.h>
+#include <zel/IZelScenarioTimeGuide.h>
+#include <zel/IZelSequence.h>
 #include <zel/IZelSharedPtrBase.h>
+#include <zel/IZelSkylight.h>
+#include <zel/IZelSnd.h>
 #include <zel/IZelString.h>
+#include <zel/IZelSubPart.h>
+#include <zel/IZelTCE.h>
+#include <zel/IZelTexture.h>
 #include <zel/IZelTime.h>
+#include <zel/IZelToneSettings.h>
+#include <zel/IZelViewBasic.h>
+#include <zel/IZelViewInfo.h>
+#include <zel/IZelViewObject.h>
+#include <zel/IZelViewOpt.h>
+#include <zel/IZelVignettingFilter.h>
 #include <zel/IZelWarning.h>
 #include <zel/IZelWriteStream.h>
 #include <zel/IZelXML.h>
 #include <zel/IZelZelObjectDefinition.h>
+#include <zel/IZelZelObjectInstance.h>
 #include <zel/TZelObjectMgr.h>
 #include <zel/ZelExport.h>
 #include <zel/ZelIdentifiers.h>
@@ -39,21 +132,6 @@
 
 namespace OvZel {
 
-class IZel3DPath;
-class IZelCamera;
-class IZelEnvironment;
-class IZelExternalDefinition;
-class IZelGround;
-class IZelHeliodon;
-class IZelLayer;
-class IZelLayerInfo;
-class IZelLight;
-class IZelLightsGroup;
-class IZelObjectInstance;
-class IZelPanoramaV2;
-class IZelScenario;
-class IZelViewObject;
-
 /// A generation of the boundary. newZelMgr takes 30 to 50, getMgrEx 5 to 50.
 enum EVersionZEL : std::int32_t { eVersionZelOldest = 30, eVersionZel = 50 };
 enum EExtendedVersionZEL : std::int32_t { eExtendedVersionZel = 50 };
@@ -64,9 +142,6 @@ enum EExtendedVersionZEL : std::int32_t { eExtendedVersionZel = 50 };
 /// at a time; different documents and the probes may run in parallel. AddRef and Release may come
 /// from any thread, and the last Release destroys the document at once, whatever objects a client
 /// still holds: those stay valid, but find no document any more.
-///
-/// Lists of types that these headers only name are empty and refuse new elements
-/// ("newZelObject: Can't allocate object"); their sections pass from load to save untouched.
 ///
 /// Pointers that it returns carry no reference and live as long as the document, texts until the
 /// next change of the same value. Failures go to IZelFeedback::message as a text; the operation
@@ -88,6 +163,20 @@ public:
         eNewerWithLoss = 5,    ///< written by a newer library, readable with loss
         eTooNew = 6,           ///< too new to be read
         eOtherApplication = 7, ///< written by an application that isn't known
+    };
+
+    /// The categories of doImportReference.
+    enum eImport : std::int32_t {
+        /// Materials of instances and internal components, and the ground's: only overwritten.
+        eImportMaterials = 0x001,
+        eImportLights = 0x010,
+        eImportHeliodons = 0x020,
+        eImportInstances = 0x040, ///< instances with their layers, and the ground if it is active
+        eImportCameras = 0x080,
+        eImportParallelViews = 0x100,
+        eImportViewObjects = 0x200,
+        eImportPanoramas = 0x400,
+        eImportSequences = 0x800, ///< those of the first scenario
     };
 
     /// Makes a document. *out is released first when it isn't null. A failure, such as
@@ -114,6 +203,26 @@ public:
     /// position is put back; where that fails *out is null. A stream that can't be parsed gives a
     /// line on standard output for each of the two, and nothing is raised.
     static ZEL_API void readFileInfo(IZelFileInfo** out, IZelReadStream* stream);
+    /// Merges a fresh export, the source, into the tuned destination: each category whose bit is
+    /// set in flags, a sum of eImport. No other bit has an effect.
+    ///
+    /// Objects pair by their exact name, the first of that name counts; lights groups, animated
+    /// elements and 3D paths pair by identifier, instances by identifier and layer. A partner is
+    /// overwritten in place, an object without partner is added at the end, nothing is ever
+    /// removed. An identifier comes over only where the file form of the class always holds one:
+    /// instances, layers, lights groups, sequences, animated elements and 3D paths. Instances that
+    /// lie on no layer of the source have no partner: a second import adds them again.
+    ///
+    /// Instances of the source are put on the layers of the destination, so that an open source
+    /// serves one call. The read transform of the destination (setMatrix) acts on all that comes
+    /// in. The same document twice does nothing.
+    ///
+    /// An object that cannot be written or read warns on its document and is passed over or left
+    /// half-read, without what it would bring along. Throws std::exception for a null document and
+    /// when an object cannot be made; what was done until then stays done. Neither document may be
+    /// in use elsewhere.
+    static ZEL_API void doImportReference(IZelMgr* destination, IZelMgr* source,
+                                          std::int32_t flags);
 
 protected:
     ~IZelMgr() override = default;

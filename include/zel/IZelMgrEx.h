@@ -21,11 +21,13 @@ class IZelMgrEx {
 public:
     virtual TZelObjectMgr<IZelAnimation>* getAnimations() = 0;
     virtual TZelObjectMgr<IZelBBMgrData>* getBillboards() = 0;
-    /// Reads a shader document into the property. This version has no properties: a message and
-    /// false.
+    /// Reads a shader document into the property. With the root "Orvane.Shader" its "Node" replaces
+    /// the nodes of the property; with "Zel.Shader" its "Property" is the whole property,
+    /// identifiers included. A failure gives a message and false, and leaves the property as far as
+    /// it came.
     virtual bool readShader(IZelProperty* property, IZelReadStream* stream) = 0;
-    /// Writes the property as a shader document. This version has no properties: a message and
-    /// false.
+    /// Writes the nodes of the property as "Zel.Shader" with a "Node", which readShader does not
+    /// take back. A property without nodes, a null property or stream: a message and false.
     virtual bool writeShader(IZelProperty* property, IZelWriteStream* stream) = 0;
     virtual TZelObjectMgr<IZelParallelView>* getWorkingViews() = 0;
     /// A new free-standing shader, which is never saved with the document; null, with a warning,

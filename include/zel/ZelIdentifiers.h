@@ -8,45 +8,7 @@ namespace OvZel {
 /// carry no sIID of their own.
 namespace ElementId {
 inline constexpr CZelUUID kZelUUID{"4F9C1F83DEFB4453B882001C03F72FC0"};
-inline constexpr CZelUUID kZel3DPath{"B27CF0E2236148A1BFCD9043D59B5726"};
-inline constexpr CZelUUID kZelEnvironment{"11F79C88B9DF4F309F90F6259D5A6998"};
-inline constexpr CZelUUID kZelInterpolatedValue{"EE9B48B60FB04627805B26B0EFA340D3"};
-inline constexpr CZelUUID kZelKeyFrame{"4BBC92790EB34901BB5938BD6FDA4DF1"};
-inline constexpr CZelUUID kZelViewBasic{"F80CF31F35E5438AB5B31B29044B6A26"};
-inline constexpr CZelUUID kZelCamera{"B60F6146384C440B942E81AA5F822019"};
-inline constexpr CZelUUID kZelParallelView{"B76B9ACD18034DD586D5A542E2C5B27F"};
-inline constexpr CZelUUID kZelPanoramaV2{"E746CA7862344968A0DACF66003DFDA7"};
-inline constexpr CZelUUID kZelViewObject{"9201CC60367947AAA12F1B45DC526B0D"};
-inline constexpr CZelUUID kZelSequence{"2E9174E2853B4A2AB49E6060145DCFE0"};
-inline constexpr CZelUUID kZelAnimation{"F29F8DF27BE94522ADC5FF107041EBA8"};
-inline constexpr CZelUUID kZelCameraPath{"6B01EDFAF52F432AA9AE129E481106FC"};
-inline constexpr CZelUUID kZelCamKey{"D399F769F7E04435A77988B4E47ED30A"};
-inline constexpr CZelUUID kPlantSetUp{"AE92E7E3E3674EE58903EF7135AABA0F"};
-inline constexpr CZelUUID kZelAnimatedElement{"FCA532B10018429AADDE01FAA8A5402C"};
-inline constexpr CZelUUID kZelBBMgrData{"69CD816C01F74E708B0380DAB7E3C399"};
-inline constexpr CZelUUID kZelBBName{"803CA4F6474741158EFC4A52449F3B70"};
-inline constexpr CZelUUID kZelScenario{"AA07FC601C724B4193F8D884D10FEA66"};
-inline constexpr CZelUUID kZelSnd{"0EA795F3EDBC4AA1B14C2CFF3E1F729E"};
-inline constexpr CZelUUID kZelScenarioTimeGuide{"567933ED95DE47B4AFC295D02521AAD7"};
-inline constexpr CZelUUID kZelBezierPoint{"EA9FA51A5E0648098C396B2DBC3DCD7B"};
-inline constexpr CZelUUID kZelTake{"4353E20F821A4B559ABED24926213674"};
-inline constexpr CZelUUID kZelZelObjectSetup{"068EFCD69DBD4CA3964E014A536096A9"};
-inline constexpr CZelUUID kZelLayer{"44B3C0649EB84B6CB315019357CFCA06"};
-inline constexpr CZelUUID kZelGround{"5DA0F7A7048A4D318FB25F92C1159D7E"};
-inline constexpr CZelUUID kZelObjectInstance{"A0993482906A4F35B5818FBC15823458"};
-inline constexpr CZelUUID kZelLightsGroup{"22CEF1BFC12745C694A05C0EFA85E3F1"};
-inline constexpr CZelUUID kZelLight{"1254F117563C4EED972802DD0AB0C778"};
-inline constexpr CZelUUID kZelHeliodon{"341D943027194BF7938ADC54ED8A391B"};
-inline constexpr CZelUUID kZelPanoLinkV2{"DC920CE649BC43CBAD8E8A2CECF4ACF4"};
-inline constexpr CZelUUID kZelPanoNodeV2{"C98074929E694ED5968AD99AECB8012B"};
-inline constexpr CZelUUID kZelMultiMaps{"57420C346A954C989B036A92F67F073E"};
-inline constexpr CZelUUID kZelSubPart{"ACC4A3A5FC0F4459BF083D362B6191F9"};
-inline constexpr CZelUUID kZelProperty{"CD5B3D7D4175487F9E6AE05DEFC83B5C"};
-inline constexpr CZelUUID kZelEngineOptions{"4BD9B0CEF0484F579EF96C9BBD424321"};
-inline constexpr CZelUUID kZelExternalDefinition{"EB2EDA6103C74CA894B1A3E7DD00DC69"};
 inline constexpr CZelUUID kDouble{"D0BEAB20EDA7418CA9E139112E36F6EB"};
-inline constexpr CZelUUID kViewInfo{"06A1B7FD65AB4B5FADA10FEF43CDD3E9"};
-inline constexpr CZelUUID kTCENode{"6B753864231F4F20906BB06145D838BC"};
 } // namespace ElementId
 
 /// Constants that were given out and that no interface uses. They are kept so that none of them is
