@@ -17,11 +17,12 @@ using testing::IsEmpty;
 constexpr const char* kNull = "00000000000000000000000000000000";
 constexpr const char* kId = "BE47E8B0CAAACD0F6FBF214CEB78CD7F";
 
+// No three of them in a line.
 std::string points(int count)
 {
     std::string text = "<Points><![CDATA[\n" + std::to_string(count) + " \n";
     for (int i = 0; i < count; ++i)
-        text += std::to_string(i) + ".0 0.0 0.0 \n";
+        text += std::to_string(i) + ".0 " + std::to_string(i * i) + ".0 0.0 \n";
     return text + "]]></Points>";
 }
 
@@ -80,9 +81,11 @@ TEST_F(ToolCheck, EachFindingHasItsCode)
         {minimalWith(points(3) + polygons("p\t0 3 0 1 2 \np\t0 4 0 1 3 -1 \nh\t0 2 3 0 1 2 3 0 1 "
                                           "7 \n")),
          {{"W101", "the document's mesh: corners at points that the mesh does not have: 3, the "
-                   "first in polygon 1"}}},
+                   "first in polygon 1"},
+          {"W110", "the document's mesh: polygons of materials beyond the 0 of the owner: 3"}}},
         {minimalWith(points(3) + polygons("p\t0 3 0 1 2 \np\t0 2 0 1 \np\t0 0 \n")),
-         {{"W106", "loops with fewer than three corners: 2, the first in polygon 1"}}},
+         {{"W106", "loops with fewer than three corners: 2, the first in polygon 1"},
+          {"W110", "beyond the 0 of the owner: 3, the first in polygon 0"}}},
         {minimalWith("<Foreign><![CDATA[ a ]]></Foreign>"), {{"W107", "'Foreign' data block"}}},
         {minimalWith("<Application.Data><Mine/></Application.Data>"),
          {{"W105", "Application.Data"}}},
@@ -159,7 +162,7 @@ TEST_F(ToolCheck, ShowOutlinesADocument)
     EXPECT_EQ(shown["application"], "Vendralis");
     EXPECT_EQ(shown["counts"]["definitions"], 1);
     EXPECT_EQ(shown["counts"]["points"], 0);
-    EXPECT_EQ(shown["counts"]["cameras"], 0);
+    EXPECT_EQ(shown["counts"]["cameras"], 1);
     EXPECT_EQ(shown["counts"].size(), 22U);
     ASSERT_EQ(shown["definitions"].size(), 1U);
     EXPECT_EQ(shown["definitions"][0]["uuid"], kId);
@@ -171,7 +174,8 @@ TEST_F(ToolCheck, ShowOutlinesADocument)
     ASSERT_EQ(text.code, 0);
     EXPECT_THAT(text.output, testing::StartsWith(legacy + "\n"));
     EXPECT_THAT(text.output, HasSubstr("\n  definitions: 1\n    " + std::string(kId) +
-                                       " level=0 points=16 polygons=7\n"));
+                                       " name=Old shed class=ModelObject level=0 points=16 "
+                                       "polygons=7 properties="));
 }
 
 TEST_F(ToolCheck, ShowNamesTheImages)

@@ -75,6 +75,19 @@ TEST(ToolManual, HasTheExamplesOfTheHelp)
     }
 }
 
+TEST(ToolManual, HasTheCommandsThatHaveAnotherInFront)
+{
+    for (const std::string command : {"export", "import"}) {
+        const std::string help = runTool({"shader", command, "--help"}).output;
+        EXPECT_THAT(section("shader " + command), HasSubstr(" FILE NAME ")) << command;
+        const std::size_t begin = help.find("Example: ");
+        ASSERT_NE(begin, std::string::npos) << command;
+        const std::string example = help.substr(begin + 9, help.find('\n', begin) - begin - 9);
+        EXPECT_THAT(example, HasSubstr("zel shader " + command + " "));
+        EXPECT_NE(manual().find("\n" + example + "\n"), std::string::npos) << example;
+    }
+}
+
 TEST(ToolManual, HasTheCodesOfTheChecks)
 {
     const std::set<std::string> codes =

@@ -35,25 +35,32 @@ TEST(ToolMemory, AMeshIsNeverInTheDocument)
     if (!ZelTest::canMeterMemory())
         GTEST_SKIP() << "the sanitizer keeps what is freed";
     const CTempFolder folder;
-    const auto peaks = [&](int side) {
+    const auto peaks = [&](int side, bool isFlat) {
         const std::string model = folder.put("model.obj", terrain(side));
         const std::string file = folder.file("model.zel");
-        const CRun from = runTool({"from-model", model, file});
+        std::vector<std::string> arguments = {"from-model", model, file};
+        if (isFlat)
+            arguments.push_back("--flat");
+        const CRun from = runTool(arguments);
         const CRun to = runTool({"to-model", file, folder.file("back.obj")});
         EXPECT_EQ(from.code, 0) << from.messages;
         EXPECT_EQ(to.code, 0) << to.messages;
         return std::pair(from.peakBytes, to.peakBytes);
     };
-    const auto [fromSmall, toSmall] = peaks(2);
-    const auto [fromBig, toBig] = peaks(500);
-    const std::size_t ofThisProcess = runProgram({"true"}).peakBytes;
-    EXPECT_LT(toBig, std::max(toSmall, ofThisProcess) + 8 * kMebibyte);
+    for (const bool isFlat : {false, true}) {
+        SCOPED_TRACE(isFlat ? "flat" : "components");
+        const auto [fromSmall, toSmall] = peaks(2, isFlat);
+        const auto [fromBig, toBig] = peaks(500, isFlat);
+        const std::size_t ofThisProcess = runProgram({"true"}).peakBytes;
+        EXPECT_LT(toBig, std::max(toSmall, ofThisProcess) + 8 * kMebibyte);
 
-    const std::size_t import = ZelTest::peakMemoryOf([&] {
-        Assimp::Importer importer;
-        importer.ReadFile(folder.file("model.obj"), aiProcess_PreTransformVertices);
-    });
-    EXPECT_LT(fromBig, std::max(fromSmall, ofThisProcess) + import + 8 * kMebibyte);
+        const std::size_t import = ZelTest::peakMemoryOf([&] {
+            Assimp::Importer importer;
+            importer.ReadFile(folder.file("model.obj"),
+                              isFlat ? static_cast<unsigned>(aiProcess_PreTransformVertices) : 0U);
+        });
+        EXPECT_LT(fromBig, std::max(fromSmall, ofThisProcess) + import + 8 * kMebibyte);
+    }
 }
 
 } // namespace

@@ -187,7 +187,7 @@ TEST_F(Tool, AWordThatIsNoCommandIsNamed)
 TEST_F(Tool, HelpIsOutputAndHasAnExample)
 {
     for (const std::string command :
-         {"", "info", "show", "check", "preview", "rewrite", "from-model", "to-model"}) {
+         {"", "info", "show", "check", "preview", "rewrite", "from-model", "to-model", "shader"}) {
         std::vector<std::string> arguments = {"--help"};
         if (!command.empty())
             arguments.insert(arguments.begin(), command);
@@ -492,7 +492,7 @@ TEST_F(Tool, PlacesOfOneMeshShareAPoint)
         "squares.obj", "v 0 0 0\nv 1 0 0\nv 1 1 0\nv 0 1 0\nv 2 0 0\nv 2 1 0\nv 1 -0 0\n"
                        "usemtl a\nf 1 2 3 4\nf 7 5 6 3\nusemtl b\nf 1 2 3 4\n");
     const std::string file = mFolder.file("squares.zel");
-    const CRun run = runTool({"from-model", model, file});
+    const CRun run = runTool({"from-model", "--flat", model, file});
     ASSERT_EQ(run.code, 0) << run.messages;
     const std::string first = "0.0 0.0 0.0 \n1.0 0.0 0.0 \n1.0 1.0 0.0 \n0.0 1.0 0.0 \n";
     const std::string text = contents(file);
@@ -514,8 +514,7 @@ TEST_F(Tool, TheMeshOfTheDocumentFollowsThoseOfItsComponents)
     const std::string out = mFolder.file("out.obj");
     const CRun run = runTool({"to-model", mFolder.put("in.zel", text), out});
     ASSERT_EQ(run.code, 0) << run.messages;
-    EXPECT_THAT(contents(out),
-                testing::StartsWith("o component_BE47E8B0CAAACD0F6FBF214CEB78CD7F\n"));
+    EXPECT_THAT(contents(out), testing::StartsWith("mtllib out.mtl\no Shed\nv 10 20 250\n"));
     EXPECT_THAT(contents(out), testing::EndsWith("\nv 9 0 0\nv 9 1 0\nv 9 0 1\n"
                                                  "usemtl material_6\nf 19 18 17\n"));
 }
@@ -556,9 +555,9 @@ TEST_F(Tool, MeshesBecomeAnObjFile)
     const std::string out = mFolder.file("mesh.obj");
     const CRun run = runTool({"to-model", file, out});
     ASSERT_EQ(run.code, 0) << run.messages;
-    EXPECT_EQ(contents(out), "o component_BE47E8B0CAAACD0F6FBF214CEB78CD7F\n"
-                             "v 0 0 0\nv 4 0 0\nv 4 -0.5 0\nv 1.606421 1 0.125\n"
-                             "usemtl material_0\nf 1 2 3\n"
+    EXPECT_EQ(contents(out), "mtllib mesh.mtl\no Shed\n" // placed at 10, 20, 0
+                             "v 10 20 0\nv 14 20 0\nv 14 19.5 0\nv 11.606421 21 0.125\n"
+                             "usemtl Brick\nf 1 2 3\n"
                              "usemtl material_3\nvt 0.5 0.25\nvt 0 0\nvt 0 0\nf 1/1 2/2 3/3\n"
                              "# a polygon with holes: its outer loop and 1 inner\n"
                              "f 1 2 3\nf 2 3 4\n");

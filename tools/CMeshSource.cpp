@@ -1,141 +1,67 @@
 #include "tools/CMeshSource.h"
 
+#include "tools/CMeshWriter.h"
 #include "tools/CToolError.h"
 #include "tools/interrupt.h"
 
-#include <zel/IZelPolygon.h>
-
 #include <algorithm>
-#include <assimp/scene.h>
 #include <cmath>
 #include <limits>
-#include <new>
 #include <numeric>
 #include <tuple>
 
 namespace tool {
 
-// Gives one block. The library asks for the records in their order; what it asks for out of order
-// is looked for from the beginning.
-class CMeshWriter final : public OvZel::IZelExtStorageWriter::IWriter {
-public:
-    explicit CMeshWriter(const CMeshSource& source) : mSource(source) {}
-
-    std::int32_t getNbPoints() override { return mSource.mNbPoints; }
-    bool getPoint(OvZel::CZelPoint* point, std::int32_t index) override;
-    std::int32_t getNbPolygons() override { return mSource.mNbPolygons; }
-    bool getPolygon(OvZel::IZelPolygon* polygon, std::int32_t index) override;
-
-private:
-    const aiMesh& mesh() const { return *mSource.mScene.mMeshes[mMesh]; }
-    void startFor(std::int32_t index);
-    void enterNextMesh();
-    bool atPoint() const;
-    bool atPolygon() const;
-
-    const CMeshSource& mSource;
-    std::int32_t mNext = 0; // index of the record to come
-    unsigned mMesh = 0;
-    std::size_t mFirstVertex = 0; // of the mesh, among those of all
-    unsigned mInMesh = 0;         // vertex or face
-};
-
-void CMeshWriter::startFor(std::int32_t index)
+OvZel::IZelExtStorageWriter::IWriter* CMeshSource::createGeometryWriter(const OvZel::CZelUUID* id)
 {
-    if (index >= mNext)
-        return;
-    mNext = 0;
-    mMesh = 0;
-    mFirstVertex = 0;
-    mInMesh = 0;
-}
-
-void CMeshWriter::enterNextMesh()
-{
-    mFirstVertex += mesh().mNumVertices;
-    ++mMesh;
-    mInMesh = 0;
-}
-
-// The first vertex at each place is the point; the numbers rise in the order of these vertices.
-bool CMeshWriter::atPoint() const
-{
-    return mSource.mPointOfVertex[mFirstVertex + mInMesh] == mNext;
-}
-
-bool CMeshWriter::atPolygon() const
-{
-    return mesh().mFaces[mInMesh].mNumIndices >= 3;
-}
-
-bool CMeshWriter::getPoint(OvZel::CZelPoint* point, std::int32_t index)
-{
-    for (startFor(index); mMesh < mSource.mScene.mNumMeshes; enterNextMesh())
-        for (; mInMesh < mesh().mNumVertices; ++mInMesh) {
-            if (!atPoint() || mNext++ != index)
-                continue;
-            const aiVector3D& place = mesh().mVertices[mInMesh++];
-            *point = {place.x, place.y, place.z};
-            return true;
-        }
-    return false;
-}
-
-static void fill(OvZel::IZelPolygon& polygon, const aiMesh& mesh, const aiFace& face,
-                 const std::int32_t* pointOfVertex)
-{
-    polygon.setSmooth(false);
-    polygon.setMaterial(static_cast<std::int32_t>(mesh.mMaterialIndex));
-    polygon.getHoles()->removeAllObjects();
-    OvZel::TZelObjectMgr<OvZel::CZelVertex>& vertices = *polygon.getVertices();
-    vertices.removeAllObjects();
-    for (unsigned i = 0; i < face.mNumIndices; ++i) {
-        const unsigned index = face.mIndices[i];
-        OvZel::CZelVertex* vertex = vertices.newZelObject(-1);
-        if (!vertex)
-            throw std::bad_alloc();
-        vertex->pointIndex = pointOfVertex[index];
-        if (!mesh.HasTextureCoords(0))
-            continue;
-        vertex->flags = OvZel::CZelVertex::kFlagM;
-        vertex->u = mesh.mTextureCoords[0][index].x;
-        vertex->v = mesh.mTextureCoords[0][index].y;
-    }
-}
-
-bool CMeshWriter::getPolygon(OvZel::IZelPolygon* polygon, std::int32_t index)
-{
-    for (startFor(index); mMesh < mSource.mScene.mNumMeshes; enterNextMesh())
-        for (; mInMesh < mesh().mNumFaces; ++mInMesh) {
-            if (!atPolygon() || mNext++ != index)
-                continue;
-            fill(*polygon, mesh(), mesh().mFaces[mInMesh++],
-                 mSource.mPointOfVertex.data() + mFirstVertex);
-            return true;
-        }
-    return false;
-}
-
-OvZel::IZelExtStorageWriter::IWriter*
-CMeshSource::createGeometryWriter(const OvZel::CZelUUID* /*id*/)
-{
-    return new CMeshWriter(*this); // the document has no mesh but its own
+    return mBlocks.count(*id) > 0 ? new CMeshWriter(*this, *id) : nullptr;
 }
 
 CMeshSource::CMeshSource(const aiScene& scene) : mScene(scene)
 {
-    std::uint64_t nbVertices = 0;
-    std::uint64_t nbFaces = 0;
-    for (unsigned i = 0; i < scene.mNumMeshes; ++i) {
-        nbVertices += scene.mMeshes[i]->mNumVertices;
-        nbFaces += scene.mMeshes[i]->mNumFaces;
-    }
-    constexpr std::uint64_t kMaxCount = std::numeric_limits<std::int32_t>::max();
-    if (nbVertices > kMaxCount || nbFaces > kMaxCount)
-        throw CToolError(eNotReadable, "the model has more than 2147483647 points or polygons");
-    mPointOfVertex.reserve(nbVertices);
+    mBlocks[OvZel::CZelUUID()]; // a document without components has an empty mesh
+    mMeshes.reserve(scene.mNumMeshes);
     for (unsigned i = 0; i < scene.mNumMeshes; ++i)
         addMesh(*scene.mMeshes[i]);
+}
+
+void CMeshSource::setWhole(const std::vector<std::int32_t>& properties)
+{
+    mProperties = &properties;
+    mBlocks[OvZel::CZelUUID()] = blockOf(0, mScene.mNumMeshes);
+}
+
+void CMeshSource::setComponent(const OvZel::CZelUUID& id, unsigned mesh,
+                               const CTransform* transform)
+{
+    CBlock block = blockOf(mesh, mesh + 1);
+    if (transform) {
+        block.isMoved = true;
+        block.transform = *transform;
+    }
+    mBlocks[id] = block;
+}
+
+static void checkCount(std::int64_t count)
+{
+    if (count > std::numeric_limits<std::int32_t>::max())
+        throw CToolError(eNotReadable, "the model has more than 2147483647 points or polygons");
+}
+
+CMeshSource::CBlock CMeshSource::blockOf(unsigned begin, unsigned end) const
+{
+    std::int64_t nbPoints = 0;
+    std::int64_t nbPolygons = 0;
+    for (unsigned i = begin; i < end; ++i) {
+        checkCount(nbPoints += mMeshes[i].nbPoints);
+        checkCount(nbPolygons += mMeshes[i].nbPolygons);
+    }
+    CBlock block;
+    block.begin = begin;
+    block.end = end;
+    block.nbPoints = static_cast<std::int32_t>(nbPoints);
+    block.nbPolygons = static_cast<std::int32_t>(nbPolygons);
+    return block;
 }
 
 static void checkFace(const aiMesh& mesh, const aiFace& face)
@@ -143,19 +69,6 @@ static void checkFace(const aiMesh& mesh, const aiFace& face)
     for (unsigned i = 0; i < face.mNumIndices; ++i)
         if (face.mIndices[i] >= mesh.mNumVertices)
             throw CToolError(eNotReadable, "the model has a corner at a point that it hasn't");
-}
-
-void CMeshSource::addMesh(const aiMesh& mesh)
-{
-    checkInterrupt();
-    addPoints(mesh);
-    for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
-        checkFace(mesh, mesh.mFaces[i]);
-        if (mesh.mFaces[i].mNumIndices < 3)
-            ++mNbLeftOut;
-        else
-            ++mNbPolygons;
-    }
 }
 
 static bool isBefore(const aiVector3D& a, const aiVector3D& b)
@@ -185,13 +98,11 @@ static void checkPlaces(const aiMesh& mesh)
     }
 }
 
-void CMeshSource::addPoints(const aiMesh& mesh)
+// Gives each vertex the number of its point, and tells how many points there are.
+static std::int32_t numberPoints(const aiMesh& mesh, std::vector<std::int32_t>& points)
 {
-    checkPlaces(mesh);
-    const std::size_t begin = mPointOfVertex.size();
-    mPointOfVertex.resize(begin + mesh.mNumVertices);
-    std::int32_t* const points = mPointOfVertex.data() + begin;
     // First each vertex gets the first vertex at its place, then that one's number.
+    points.resize(mesh.mNumVertices);
     const std::vector<std::uint32_t> order = sortedByPlace(mesh);
     std::uint32_t first = 0;
     for (std::size_t i = 0; i < order.size(); ++i) {
@@ -199,8 +110,46 @@ void CMeshSource::addPoints(const aiMesh& mesh)
             first = order[i];
         points[order[i]] = static_cast<std::int32_t>(first);
     }
+    std::int32_t nbPoints = 0;
     for (std::uint32_t i = 0; i < mesh.mNumVertices; ++i)
-        points[i] = points[i] == static_cast<std::int32_t>(i) ? mNbPoints++ : points[points[i]];
+        points[i] = points[i] == static_cast<std::int32_t>(i)
+                        ? nbPoints++
+                        : points[static_cast<std::size_t>(points[i])];
+    return nbPoints;
+}
+
+static OvZel::CZelBox boxOf(const aiMesh& mesh)
+{
+    OvZel::CZelBox box{{0.0, 0.0, 0.0}, {0.0, 0.0, 0.0}};
+    for (unsigned i = 0; i < mesh.mNumVertices; ++i) {
+        const aiVector3D& place = mesh.mVertices[i];
+        const OvZel::CZelPoint point{place.x, place.y, place.z};
+        if (i == 0)
+            box = {point, point};
+        box.minimum = {std::min(box.minimum.x, point.x), std::min(box.minimum.y, point.y),
+                       std::min(box.minimum.z, point.z)};
+        box.maximum = {std::max(box.maximum.x, point.x), std::max(box.maximum.y, point.y),
+                       std::max(box.maximum.z, point.z)};
+    }
+    return box;
+}
+
+void CMeshSource::addMesh(const aiMesh& mesh)
+{
+    checkInterrupt();
+    checkCount(mesh.mNumVertices);
+    checkCount(mesh.mNumFaces);
+    checkPlaces(mesh);
+    CMesh& added = mMeshes.emplace_back();
+    added.nbPoints = numberPoints(mesh, added.pointOfVertex);
+    added.box = boxOf(mesh);
+    for (unsigned i = 0; i < mesh.mNumFaces; ++i) {
+        checkFace(mesh, mesh.mFaces[i]);
+        if (mesh.mFaces[i].mNumIndices < 3)
+            ++mNbLeftOut;
+        else
+            ++added.nbPolygons;
+    }
 }
 
 } // namespace tool

@@ -1,139 +1,187 @@
 #include "tools/CObjWriter.h"
 
 #include "tools/CFileWriteStream.h"
-#include "tools/oneLine.h"
+#include "tools/objText.h"
 
-#include <zel/IZelPolygon.h>
-
-#include <charconv>
-#include <string_view>
+#include <algorithm>
 
 namespace tool {
 
 using OvZel::CZelVertex;
 
-// Documents keep six decimals, so more would only show how the sum of the digits was rounded.
-void CObjWriter::addReal(double value)
+void CObjWriter::startMesh(const OvZel::CZelUUID& id)
 {
-    char text[400]; // the largest double has 309 digits in front of the point
-    const auto end =
-        std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 6).ptr;
-    std::string_view number(text, static_cast<std::size_t>(end - text));
-    number = number.substr(0, number.find_last_not_of('0') + 1);
-    if (number.back() == '.')
-        number.remove_suffix(1);
-    mLine += ' ';
-    mLine += number == "-0" ? "0" : number;
+    finish();
+    mHasMesh = true;
+    mMesh = id;
+    mMaterialNames = &mMaterials.namesOf(id);
+    mMeshPlaces = &mPlaces.of(id);
+    startPlace(mMeshPlaces->front());
 }
 
-void CObjWriter::addInteger(std::int64_t value)
+void CObjWriter::startPlace(const CObjPlace& place)
 {
-    char text[24];
-    mLine.append(text, std::to_chars(text, text + sizeof text, value).ptr);
+    mPlace = &place;
+    mIsMirrored = place.transform.isMirrored();
+    mNbPointsBefore += mNbPoints;
+    mNbPoints = 0;
+    if (place.name.empty())
+        return;
+    mStream.writeText("o " + place.name + "\n");
+    if (!place.comment.empty())
+        mStream.writeText("# " + place.comment + "\n");
+    mMaterial.clear(); // readers differ in whether an object takes over that of the one before
 }
 
 void CObjWriter::startPoints(const OvZel::CZelUUID& id)
 {
-    mMesh = id;
-    mNbPointsBefore += mNbPoints;
-    mNbPoints = 0;
-    if (!id.isNull())
-        mStream.writeText("o component_" + idText(id) + "\n");
+    startMesh(id);
 }
 
 void CObjWriter::startPolygons(const OvZel::CZelUUID& id)
 {
-    if (id == mMesh)
-        return;
-    mMesh = id;
-    mNbPointsBefore += mNbPoints;
-    mNbPoints = 0;
+    if (!mHasMesh || id != mMesh)
+        startMesh(id);
 }
 
 void CObjWriter::addPoint(const OvZel::CZelPoint& point)
 {
-    ++mNbPoints;
-    mLine = "v";
-    addReal(point.x);
-    addReal(point.y);
-    addReal(point.z);
-    mStream.writeText(mLine += "\n");
+    if (mMeshPlaces->size() > 1)
+        mKept.points.push_back(point);
+    writePoint(point);
+}
+
+static void addLoop(OvZel::TZelObjectMgr<CZelVertex>& vertices, std::vector<CZelVertex>& corners,
+                    std::vector<std::uint32_t>& loopSizes)
+{
+    const std::int32_t nbCorners = vertices.getNbObjects();
+    loopSizes.push_back(static_cast<std::uint32_t>(nbCorners));
+    for (std::int32_t i = 0; i < nbCorners; ++i)
+        corners.push_back(*vertices.getZelObject(i));
 }
 
 void CObjWriter::addPolygon(OvZel::IZelPolygon& polygon)
 {
-    addMaterial(polygon.getMaterial());
-    const std::int32_t nbHoles = polygon.getHoles()->getNbObjects();
-    if (nbHoles > 0) {
+    mPolygon.loopSizes.clear();
+    mPolygon.corners.clear();
+    addLoop(*polygon.getVertices(), mPolygon.corners, mPolygon.loopSizes);
+    for (std::int32_t i = 0; i < polygon.getHoles()->getNbObjects(); ++i)
+        addLoop(*polygon.getHoles()->getZelObject(i)->getVertices(), mPolygon.corners,
+                mPolygon.loopSizes);
+    const CPolygon head{polygon.getMaterial(),
+                        static_cast<std::uint32_t>(mPolygon.loopSizes.size())};
+    if (mMeshPlaces->size() > 1) {
+        mKept.polygons.push_back(head);
+        mKept.loopSizes.insert(mKept.loopSizes.end(), mPolygon.loopSizes.begin(),
+                               mPolygon.loopSizes.end());
+        mKept.corners.insert(mKept.corners.end(), mPolygon.corners.begin(), mPolygon.corners.end());
+    }
+    writePolygon(head, mPolygon.loopSizes.data(), mPolygon.corners.data());
+}
+
+void CObjWriter::finish()
+{
+    for (std::size_t i = 1; mHasMesh && i < mMeshPlaces->size(); ++i) {
+        startPlace((*mMeshPlaces)[i]);
+        writeKept();
+    }
+    mKept = CMesh();
+    mHasMesh = false;
+}
+
+void CObjWriter::writeKept()
+{
+    for (const OvZel::CZelPoint& point : mKept.points)
+        writePoint(point);
+    const std::uint32_t* loopSizes = mKept.loopSizes.data();
+    const CZelVertex* corners = mKept.corners.data();
+    for (const CPolygon& polygon : mKept.polygons) {
+        writePolygon(polygon, loopSizes, corners);
+        for (std::uint32_t i = 0; i < polygon.nbLoops; ++i)
+            corners += *loopSizes++;
+    }
+}
+
+void CObjWriter::writePoint(const OvZel::CZelPoint& point)
+{
+    ++mNbPoints;
+    const OvZel::CZelPoint place = mPlace->transform.apply(point);
+    mLine = "v";
+    addReal(mLine, place.x);
+    addReal(mLine, place.y);
+    addReal(mLine, place.z);
+    mStream.writeText(mLine += "\n");
+}
+
+void CObjWriter::writePolygon(const CPolygon& polygon, const std::uint32_t* loopSizes,
+                              const CZelVertex* corners)
+{
+    writeMaterial(polygon.material);
+    if (polygon.nbLoops > 1) {
         ++mNbWithHoles;
-        mStream.writeText("# a polygon with holes: its outer loop and " + std::to_string(nbHoles) +
-                          " inner\n");
+        mStream.writeText("# a polygon with holes: its outer loop and " +
+                          std::to_string(polygon.nbLoops - 1) + " inner\n");
     }
-    addLoop(*polygon.getVertices());
-    for (std::int32_t i = 0; i < nbHoles; ++i)
-        addLoop(*polygon.getHoles()->getZelObject(i)->getVertices());
+    for (std::uint32_t i = 0; i < polygon.nbLoops; ++i) {
+        writeLoop(corners, loopSizes[i]);
+        corners += loopSizes[i];
+    }
 }
 
-void CObjWriter::addMaterial(std::int32_t material)
+void CObjWriter::writeMaterial(std::int32_t material)
 {
-    if (mHasMaterial && material == mMaterial)
+    const std::vector<std::string>& names = *mMaterialNames;
+    const std::string name = material >= 0 && static_cast<std::size_t>(material) < names.size()
+                                 ? names[static_cast<std::size_t>(material)]
+                                 : "material_" + std::to_string(material);
+    if (name == mMaterial)
         return;
-    mHasMaterial = true;
-    mMaterial = material;
-    mStream.writeText("usemtl material_" + std::to_string(material) + "\n");
+    mMaterial = name;
+    mStream.writeText("usemtl " + name + "\n");
 }
 
-bool CObjWriter::isFace(CVertices& vertices) const
+bool CObjWriter::isFace(const CZelVertex* corners, std::uint32_t nbCorners) const
 {
-    for (std::int32_t i = 0; i < vertices.getNbObjects(); ++i) {
-        const std::int32_t index = vertices.getZelObject(i)->pointIndex;
-        if (index < 0 || index >= mNbPoints)
-            return false;
-    }
-    return vertices.getNbObjects() >= 3;
-}
-
-static bool hasMapping(OvZel::TZelObjectMgr<CZelVertex>& vertices)
-{
-    for (std::int32_t i = 0; i < vertices.getNbObjects(); ++i)
-        if (vertices.getZelObject(i)->flags & CZelVertex::kFlagM)
-            return true;
-    return false;
+    return nbCorners >= 3 && std::all_of(corners, corners + nbCorners, [&](const CZelVertex& v) {
+               return v.pointIndex >= 0 && v.pointIndex < mNbPoints;
+           });
 }
 
 // Readers want mapping numbers at all corners of a face or at none, so that corners without any
 // get 0 0 when another corner of the face has some.
-void CObjWriter::addMapping(CVertices& vertices)
+void CObjWriter::writeMapping(const CZelVertex* corners, std::uint32_t nbCorners)
 {
-    for (std::int32_t i = 0; i < vertices.getNbObjects(); ++i) {
-        const CZelVertex& vertex = *vertices.getZelObject(i);
-        const bool isSet = vertex.flags & CZelVertex::kFlagM;
+    for (std::uint32_t i = 0; i < nbCorners; ++i) {
+        const bool isSet = corners[i].flags & CZelVertex::kFlagM;
         mLine = "vt";
-        addReal(isSet ? vertex.u : 0.0F);
-        addReal(isSet ? vertex.v : 0.0F);
+        addReal(mLine, isSet ? corners[i].u : 0.0F);
+        addReal(mLine, isSet ? corners[i].v : 0.0F);
         mStream.writeText(mLine += "\n");
     }
-    mNbMappings += vertices.getNbObjects();
+    mNbMappings += nbCorners;
 }
 
-void CObjWriter::addLoop(CVertices& vertices)
+void CObjWriter::writeLoop(const CZelVertex* corners, std::uint32_t nbCorners)
 {
-    if (!isFace(vertices)) {
+    if (!isFace(corners, nbCorners)) {
         ++mNbLeftOut;
         return;
     }
-    const bool isMapped = hasMapping(vertices);
+    const bool isMapped = std::any_of(corners, corners + nbCorners, [](const CZelVertex& v) {
+        return v.flags & CZelVertex::kFlagM;
+    });
     const std::int64_t firstMapping = mNbMappings + 1;
     if (isMapped)
-        addMapping(vertices);
+        writeMapping(corners, nbCorners);
     mLine = "f";
-    for (std::int32_t i = 0; i < vertices.getNbObjects(); ++i) {
+    for (std::uint32_t i = 0; i < nbCorners; ++i) {
+        const std::uint32_t corner = mIsMirrored ? nbCorners - 1 - i : i;
         mLine += ' ';
-        addInteger(mNbPointsBefore + vertices.getZelObject(i)->pointIndex + 1);
+        addInteger(mLine, mNbPointsBefore + corners[corner].pointIndex + 1);
         if (!isMapped)
             continue;
         mLine += '/';
-        addInteger(firstMapping + i);
+        addInteger(mLine, firstMapping + corner);
     }
     mStream.writeText(mLine += "\n");
 }

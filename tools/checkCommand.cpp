@@ -1,11 +1,9 @@
 #include "tools/commands.h"
 
-#include "tools/CMeshCheck.h"
+#include "tools/CFindings.h"
 #include "tools/CToolDocument.h"
-#include "tools/CToolOutput.h"
-#include "tools/droppedSections.h"
+#include "tools/checkParts.h"
 #include "tools/eachFile.h"
-#include "tools/oneLine.h"
 
 #include <exception>
 
@@ -25,6 +23,25 @@ static constexpr struct {
     {"W106", "a polygon with fewer than three corners"},
     {"W107", "a section that the library does not know, kept as it is"},
     {"W108", "written by a newer library"},
+    {"W109", "a node of maps, or one of its images, without any address"},
+    {"W110", "a polygon of a material that its owner does not have"},
+    {"W111", "two materials of one name in a list"},
+    {"W112", "two materials of one identifier in a list"},
+    {"W113", "a material with a branch that does not end in a leaf"},
+    {"W114", "a light of a group that does not exist"},
+    {"W115", "a spot light with a cone of 0"},
+    {"W116", "two heliodons of one name"},
+    {"W117", "an instance of a component that does not exist"},
+    {"W118", "an instance of an external definition that does not exist"},
+    {"W119", "an instance on a layer that does not exist"},
+    {"W120", "an instance attached to an object that does not exist"},
+    {"W121", "a definition that no instance places"},
+    {"W122", "a polygon without area, or with a corner twice in a row"},
+    {"W123", "a view with a heliodon that does not exist"},
+    {"W124", "a view with an environment that does not exist"},
+    {"W125", "a view with a ground that does not exist"},
+    {"W126", "a view with a light group that does not exist"},
+    {"W127", "a view with a layer that does not exist"},
 };
 
 std::string findingCodes()
@@ -35,33 +52,6 @@ std::string findingCodes()
     return text;
 }
 
-namespace {
-
-// Writes the findings of one file as they come.
-class CFindings {
-public:
-    CFindings(const std::string& file, bool asJson, CToolOutput& output)
-        : mFile(file), mAsJson(asJson), mOutput(output)
-    {
-    }
-
-    void add(const char* code, const std::string& text)
-    {
-        mIsEmpty = false;
-        mOutput.write(mAsJson ? jsonLine({{"file", mFile}, {"code", code}, {"text", text}})
-                              : oneLine(mFile) + "\t" + code + "\t" + oneLine(text) + "\n");
-    }
-    bool isEmpty() const { return mIsEmpty; }
-
-private:
-    const std::string& mFile;
-    bool mAsJson;
-    CToolOutput& mOutput;
-    bool mIsEmpty = true;
-};
-
-} // namespace
-
 static void checkVersion(CFileReadStream& stream, CFindings& findings)
 {
     OvZel::IZelMgr::eReadability readability = OvZel::IZelMgr::eUnknown;
@@ -70,57 +60,15 @@ static void checkVersion(CFileReadStream& stream, CFindings& findings)
         findings.add("W108", "written by a newer library");
 }
 
-static void checkId(const OvZel::CZelUUID& id, const std::string& owner, CFindings& findings)
+static void checkContent(OvZel::IZelMgr& document, CFindings& findings)
 {
-    if (id.isNull())
-        findings.add("W103", owner + " has a null identifier");
-}
-
-static void checkIds(OvZel::IZelMgr& document, CFindings& findings)
-{
-    checkId(*document.getFileInfo()->getBasicData()->getId(), "the file", findings);
-    for (std::int32_t i = 0; i < document.getImages()->getNbObjects(); ++i)
-        checkId(*document.getImages()->getZelObject(i)->getId(), "image " + std::to_string(i),
-                findings);
-    for (std::int32_t i = 0; i < document.getDefinitions()->getNbObjects(); ++i)
-        checkId(*document.getDefinitions()->getZelObject(i)->getBasicData()->getId(),
-                "definition " + std::to_string(i), findings);
-    for (const std::string& id : repeatedComponents(document))
-        findings.add("W102", "more than one definition has the identifier " + id);
-}
-
-static void checkSections(OvZel::IZelMgr& document, CFindings& findings)
-{
-    const CDropped dropped = droppedSections(document);
-    for (const std::string& name : dropped.earlySections)
-        findings.add("W104", "a save drops the section \"" + name + "\" of an early version");
-    if (dropped.hasApplicationData)
-        findings.add("W105", "a save drops the section \"Application.Data\"");
-}
-
-static void checkMesh(const std::string& owner, OvZel::TZelObjectMgr<OvZel::CZelPoint>& points,
-                      OvZel::TZelObjectMgr<OvZel::IZelPolygon>& polygons, CFindings& findings)
-{
-    CMeshCheck check(points.getNbObjects());
-    for (std::int32_t i = 0; i < polygons.getNbObjects(); ++i)
-        check.addPolygon(*polygons.getZelObject(i), i);
-    if (check.badCorners().count > 0)
-        findings.add("W101", owner + ": corners at points that the mesh does not have: " +
-                                 check.badCorners().text());
-    if (check.shortLoops().count > 0)
-        findings.add("W106",
-                     owner + ": loops with fewer than three corners: " + check.shortLoops().text());
-}
-
-static void checkMeshes(OvZel::IZelMgr& document, CFindings& findings)
-{
-    checkMesh("the document's mesh", *document.getPoints(), *document.getPolygons(), findings);
-    OvZel::TZelObjectMgr<OvZel::IZelZelObjectDefinition>& definitions = *document.getDefinitions();
-    for (std::int32_t i = 0; i < definitions.getNbObjects(); ++i) {
-        OvZel::IZelZelObjectDefinition& definition = *definitions.getZelObject(i);
-        checkMesh("definition " + idText(*definition.getBasicData()->getId()),
-                  *definition.getPoints(), *definition.getPolygons(), findings);
-    }
+    checkIds(document, findings);
+    checkSections(document, findings);
+    checkMeshes(document, findings);
+    checkMaterials(document, findings);
+    checkLights(document, findings);
+    checkInstances(document, findings);
+    checkViews(document, findings);
 }
 
 static EExit checkFile(const std::string& file, bool asJson, CToolOutput& output)
@@ -140,9 +88,7 @@ static EExit checkFile(const std::string& file, bool asJson, CToolOutput& output
     document.read(stream, file);
     if (failure)
         std::rethrow_exception(failure);
-    checkIds(*document, findings);
-    checkSections(*document, findings);
-    checkMeshes(*document, findings);
+    checkContent(*document, findings);
     return findings.isEmpty() ? eDone : eFindings;
 }
 

@@ -17,7 +17,7 @@ class CToolOutput;
 
 /// One line for each file, by the probes alone. The worst outcome is the result.
 EExit infoCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output);
-/// An outline of each list of a document: how many elements, and what they are called.
+/// An outline of each list of a document: how many elements, and what matters most in each.
 void showCommand(const std::string& file, bool asJson, CToolOutput& output);
 /// One line for each finding, by a load. eFindings when there is any, unless something is worse.
 EExit checkCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output);
@@ -35,9 +35,28 @@ struct CRewrite {
 /// Load and save. With bare nothing but that; otherwise the preview picture is carried over, and
 /// what would lose data of a newer file or of a broken block is refused unless forced.
 void rewriteCommand(const CRewrite& request);
-/// A model becomes the mesh of a new document. An empty png means no preview.
-void fromModelCommand(const std::string& model, const std::string& out, const std::string& png);
-/// The meshes of a document become an OBJ file.
+struct CFromModel {
+    std::string model;
+    std::string out;
+    std::string preview; ///< a PNG file, or empty for none
+    bool isFlat = false; ///< one mesh, without components and instances
+};
+/// A model becomes a new document with its materials, its meshes as components, and an instance
+/// for each place of one.
+void fromModelCommand(const CFromModel& request);
+/// The components of a document where its instances place them, and its own mesh, become an OBJ
+/// file, with the materials in an MTL file beside it.
 void toModelCommand(const std::string& in, const std::string& obj);
+struct CShader {
+    std::string file;   ///< the document
+    std::string name;   ///< of a material of the document, or "#N" for its number
+    std::string shader; ///< the shader document to import
+    std::string out;
+};
+/// A material of a document becomes a shader document.
+void exportShaderCommand(const CShader& request);
+/// A shader document becomes the content of a material, which is added if there is none of that
+/// name.
+void importShaderCommand(const CShader& request);
 
 } // namespace tool

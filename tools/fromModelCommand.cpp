@@ -2,6 +2,7 @@
 
 #include "tools/CMeshSource.h"
 #include "tools/CProgressBar.h"
+#include "tools/CSceneBuilder.h"
 #include "tools/CToolDocument.h"
 #include "tools/interrupt.h"
 #include "tools/pngFile.h"
@@ -32,12 +33,13 @@ private:
 // The importer with the scene that it owns.
 class CImport {
 public:
-    explicit CImport(const std::string& model)
+    CImport(const std::string& model, bool isFlat)
     {
         auto* const progress = new CImportProgress;
         mImporter.SetProgressHandler(progress); // which owns it from here on
-        // The document has one mesh space: every mesh goes where its node puts it.
-        const aiScene* scene = mImporter.ReadFile(model, aiProcess_PreTransformVertices);
+        constexpr unsigned kInPlace = aiProcess_PreTransformVertices;
+        // In one mesh space every mesh goes where its node puts it.
+        const aiScene* scene = mImporter.ReadFile(model, isFlat ? kInPlace : 0U);
         progress->clearBar();
         checkInterrupt();
         if (!scene)
@@ -60,19 +62,38 @@ static void checkReadable(const std::string& model)
     stream.check();
 }
 
-void fromModelCommand(const std::string& model, const std::string& out, const std::string& png)
+static void setPreview(OvZel::IZelMgr& document, const std::string& png)
 {
-    CToolDocument document;
-    if (!png.empty()) {
-        const CPicture picture = readPng(png);
-        document->getPreviewImage()->setImage(picture.width, picture.height, picture.pixels.data());
-    }
-    checkReadable(model);
-    const CImport import(model);
-    CMeshSource source(import.scene());
+    const CPicture picture = readPng(png);
+    document.getPreviewImage()->setImage(picture.width, picture.height, picture.pixels.data());
+}
+
+static void reportLosses(const std::string& model, const CMeshSource& source,
+                         const CSceneBuilder& builder)
+{
     if (source.getNbLeftOut() > 0)
         complain(model + ": points and lines, left out: " + std::to_string(source.getNbLeftOut()));
-    document.save(out, &source);
+    if (builder.getNbMapsLeftOut() > 0)
+        complain(model + ": maps that are in the model itself, left out: " +
+                 std::to_string(builder.getNbMapsLeftOut()));
+}
+
+void fromModelCommand(const CFromModel& request)
+{
+    CToolDocument document;
+    if (!request.preview.empty())
+        setPreview(*document, request.preview);
+    checkReadable(request.model);
+    const CImport import(request.model, request.isFlat);
+    CMeshSource source(import.scene());
+    CSceneBuilder builder(*document, import.scene(), source);
+    builder.addMaterials();
+    if (request.isFlat)
+        builder.addWhole();
+    else
+        builder.addComponents();
+    reportLosses(request.model, source, builder);
+    document.save(request.out, &source);
 }
 
 } // namespace tool

@@ -17,9 +17,10 @@ struct CArguments {
     std::vector<std::string> files;
     std::string in;
     std::string out;
-    std::string preview;
     bool asJson = false;
     CRewrite rewrite;
+    CFromModel fromModel;
+    CShader shader;
     std::function<EExit()> command;
 };
 
@@ -41,7 +42,10 @@ static void addShow(CLI::App& app, CArguments& arguments, CToolOutput& output)
     CLI::App* show = app.add_subcommand("show", "Loads a document and outlines what is in it");
     show->add_flag("--json", arguments.asJson, "One JSON object");
     show->add_option("FILE", arguments.in, "The document to load")->required();
-    show->footer("Example: zel show house.zel");
+    show->footer(
+        "Materials are shown with the nodes of their trees and the addresses of their maps, "
+        "and what\nnames another object with the name of that.\n\n"
+        "Example: zel show house.zel");
     show->callback([&] {
         arguments.command = [&] {
             showCommand(arguments.in, arguments.asJson, output);
@@ -127,14 +131,22 @@ static void addRewrite(CLI::App& app, CArguments& arguments)
 static void addFromModel(CLI::App& app, CArguments& arguments)
 {
     CLI::App* fromModel = app.add_subcommand("from-model", "Makes a document from a model");
-    fromModel->add_option("MODEL", arguments.in, "An OBJ, IFC, glTF or other model file")
+    CFromModel& request = arguments.fromModel;
+    fromModel->add_option("MODEL", request.model, "An OBJ, IFC, glTF or other model file")
         ->required();
-    fromModel->add_option("OUT", arguments.out, "The document to save")->required();
-    fromModel->add_option("--preview", arguments.preview, "A PNG picture to show for the document");
-    fromModel->footer("Example: zel from-model house.ifc house.zel --preview house.png");
+    fromModel->add_option("OUT", request.out, "The document to save")->required();
+    fromModel->add_option("--preview", request.preview, "A PNG picture to show for the document");
+    fromModel->add_flag("--flat", request.isFlat,
+                        "One mesh with everything in its place, without components");
+    fromModel->footer(
+        "Each material becomes a property, each mesh a component, each place of a mesh an "
+        "instance,\neach node below the root a layer. The three angles of an instance are radians: "
+        "the component\nis scaled, turned about the X axis, then about Y, then about Z, all of "
+        "them fixed, and then\nmoved. A place that this can't tell gets a component of its own.\n\n"
+        "Example: zel from-model house.ifc house.zel --preview house.png");
     fromModel->callback([&] {
         arguments.command = [&] {
-            fromModelCommand(arguments.in, arguments.out, arguments.preview);
+            fromModelCommand(arguments.fromModel);
             return eDone;
         };
     });
@@ -145,11 +157,54 @@ static void addToModel(CLI::App& app, CArguments& arguments)
     CLI::App* toModel = app.add_subcommand("to-model", "Writes the meshes of a document as OBJ");
     toModel->add_option("IN", arguments.in, "The document to load")->required();
     toModel->add_option("OUT.obj", arguments.out, "The model to write")->required();
-    toModel->footer("Each material index N becomes the material name material_N.\n\n"
+    toModel->footer("The properties go to an MTL file of the same name. Each component is written "
+                    "where each of\nits instances places it, with the angles as from-model has "
+                    "them. A material index N without\na property becomes the name "
+                    "material_N.\n\n"
                     "Example: zel to-model house.zel house.obj");
     toModel->callback([&] {
         arguments.command = [&] {
             toModelCommand(arguments.in, arguments.out);
+            return eDone;
+        };
+    });
+}
+
+static void addShaderExport(CLI::App& shader, CShader& request)
+{
+    CLI::App* command = shader.add_subcommand("export", "Writes a material as a shader document");
+    command->add_option("FILE", request.file, "The document to load")->required();
+    command->add_option("NAME", request.name, "Name of the material, or #N")->required();
+    command->add_option("OUT", request.out, "The shader document to write")->required();
+    command->footer("Example: zel shader export house.zel Oak oak.xml");
+}
+
+static void addShaderImport(CLI::App& shader, CShader& request)
+{
+    CLI::App* command = shader.add_subcommand(
+        "import", "Puts a shader document into a material, or into a new one of that name");
+    command->add_option("FILE", request.file, "The document to load")->required();
+    command->add_option("NAME", request.name, "Name of the material, or #N")->required();
+    command->add_option("SHADER", request.shader, "The shader document to read")->required();
+    command->add_option("OUT", request.out, "The document to save; may be FILE")->required();
+    command->footer("Name and identifier of the material stay as they are.\n\n"
+                    "Example: zel shader import garden.zel Oak oak.xml garden.zel");
+}
+
+static void addShader(CLI::App& app, CArguments& arguments)
+{
+    CLI::App* shader =
+        app.add_subcommand("shader", "Moves a material between documents, as a shader document");
+    shader->require_subcommand(1);
+    addShaderExport(*shader, arguments.shader);
+    addShaderImport(*shader, arguments.shader);
+    shader->footer("#N is the material of number N, from 0, where none has that name. Where "
+                   "several have\nthe name, only the number will do.\n\n"
+                   "Example: zel shader export house.zel Oak oak.xml");
+    shader->callback([&arguments, shader] {
+        arguments.command = [&arguments, isExport = shader->got_subcommand("export")] {
+            isExport ? exportShaderCommand(arguments.shader)
+                     : importShaderCommand(arguments.shader);
             return eDone;
         };
     });
@@ -184,11 +239,12 @@ static EExit run(int argc, char** argv, CToolOutput& output)
     addRewrite(app, arguments);
     addFromModel(app, arguments);
     addToModel(app, arguments);
+    addShader(app, arguments);
     try {
         app.parse(argc, argv);
     } catch (const CLI::RequiredError& error) {
         // Behind a word that is no command, the command itself is what the parser misses first.
-        const std::vector<std::string> unknown = app.remaining();
+        const std::vector<std::string> unknown = app.remaining(true);
         if (!unknown.empty())
             return stopParsing(app, CLI::ExtrasError(unknown), output);
         return stopParsing(app, error, output);

@@ -3,14 +3,18 @@
 #include "tools/CToolDocument.h"
 #include "tools/CToolOutput.h"
 #include "tools/oneLine.h"
+#include "tools/outlineText.h"
+#include "tools/showParts.h"
+
+#include <zel/IZelMgrEx.h>
 
 namespace tool {
 
 using nlohmann::ordered_json;
-using OvZel::IZelZelObjectDefinition;
 
-// The lists of the document, each under the name of the operation that gives it.
-static ordered_json managers(OvZel::IZelMgr& document)
+// The number of elements of each list of the document, under the name of the operation that gives
+// it.
+static ordered_json counts(OvZel::IZelMgr& document)
 {
     OvZel::IZelMgrEx* more = document.getMgrEx(OvZel::eVersionZel);
     if (!more)
@@ -42,78 +46,26 @@ static ordered_json managers(OvZel::IZelMgr& document)
         {"grounds", document.getGrounds()},
         {"billboards", more->getBillboards()},
     };
-    ordered_json counts;
+    ordered_json numbers;
     for (const auto& row : rows)
-        counts[row.name] = row.manager ? row.manager->getNbObjects() : 0;
-    return counts;
-}
-
-static ordered_json outline(OvZel::IZelImage& image)
-{
-    std::uint32_t width = 0;
-    std::uint32_t height = 0;
-    image.getImage(&width, &height, nullptr);
-    return {{"uuid", idText(*image.getId())}, {"width", width}, {"height", height}};
-}
-
-static ordered_json outline(IZelZelObjectDefinition& definition)
-{
-    return {{"uuid", idText(*definition.getBasicData()->getId())},
-            {"name", definition.getName()->getCurrentText()},
-            {"level", definition.getGeometryLevel()},
-            {"points", definition.getPoints()->getNbObjects()},
-            {"polygons", definition.getPolygons()->getNbObjects()}};
-}
-
-template <class T>
-static ordered_json outlines(OvZel::TZelObjectMgr<T>& manager)
-{
-    ordered_json list = ordered_json::array();
-    for (std::int32_t i = 0; i < manager.getNbObjects(); ++i)
-        list.push_back(outline(*manager.getZelObject(i)));
-    return list;
+        numbers[row.name] = row.manager ? row.manager->getNbObjects() : 0;
+    return numbers;
 }
 
 static ordered_json outline(OvZel::IZelMgr& document, const std::string& file)
 {
-    return {{"file", file},
-            {"uuid", idText(*document.getFileInfo()->getBasicData()->getId())},
-            {"application", document.getApplicationName()},
-            {"name", document.getObjectDefinition()->getName()->getCurrentText()},
-            {"counts", managers(document)},
-            {"images", outlines(*document.getImages())},
-            {"definitions", outlines(*document.getDefinitions())}};
-}
-
-// A text without its quotation marks and escapes, anything else as JSON has it.
-static std::string plain(const ordered_json& value)
-{
-    return value.is_string() ? oneLine(value.get<std::string>()) : value.dump();
-}
-
-// Empty texts are left out.
-static std::string elementText(const ordered_json& element)
-{
-    std::string text;
-    for (const auto& [key, value] : element.items())
-        if (value != "")
-            text += " " + (key == "uuid" ? plain(value) : key + "=" + plain(value));
-    return text;
-}
-
-static std::string textOf(const ordered_json& document)
-{
-    std::string text = plain(document["file"]) + "\n";
-    for (const char* key : {"uuid", "application", "name"})
-        text += std::string("  ") + key + ": " + plain(document[key]) + "\n";
-    for (const auto& [name, count] : document["counts"].items()) {
-        text += "  " + name + ": " + plain(count) + "\n";
-        if (!document.contains(name))
-            continue;
-        for (const ordered_json& element : document[name])
-            text += "   " + elementText(element) + "\n";
-    }
-    return text;
+    ordered_json object = {{"file", file},
+                           {"uuid", idText(*document.getFileInfo()->getBasicData()->getId())},
+                           {"application", document.getApplicationName()},
+                           {"name", document.getObjectDefinition()->getName()->getCurrentText()},
+                           {"counts", counts(document)}};
+    showMaterials(document, object);
+    showLights(document, object);
+    showSurroundings(document, object);
+    showDefinitions(document, object);
+    showInstances(document, object);
+    showViews(document, object);
+    return object;
 }
 
 void showCommand(const std::string& file, bool asJson, CToolOutput& output)
@@ -122,7 +74,7 @@ void showCommand(const std::string& file, bool asJson, CToolOutput& output)
     CToolDocument document;
     document.read(stream, file);
     const ordered_json object = outline(*document, file);
-    output.write(asJson ? jsonLine(object) : textOf(object));
+    output.write(asJson ? jsonLine(object) : outlineText(object));
 }
 
 } // namespace tool

@@ -2,31 +2,67 @@
 
 #include "tools/CAtomicFile.h"
 #include "tools/CMeshSink.h"
+#include "tools/CNoMeshes.h"
 #include "tools/CObjWriter.h"
 #include "tools/CToolDocument.h"
 
+#include <filesystem>
+#include <optional>
+
 namespace tool {
 
-static void reportLosses(const CObjWriter& writer, const std::string& in)
+static void reportLosses(const CObjWriter& writer, const CObjPlaces& places, const std::string& in)
 {
-    if (writer.getNbWithHoles() > 0)
-        complain(in + ": polygons with holes, whose loops became faces of their own: " +
-                 std::to_string(writer.getNbWithHoles()));
-    if (writer.getNbLeftOut() > 0)
-        complain(in +
-                 ": loops that can't be faces, left out: " + std::to_string(writer.getNbLeftOut()));
+    const auto report = [&](const char* what, std::uint64_t count) {
+        if (count > 0)
+            complain(in + ": " + what + ": " + std::to_string(count));
+    };
+    report("polygons with holes, whose loops became faces of their own", writer.getNbWithHoles());
+    report("loops that can't be faces, left out", writer.getNbLeftOut());
+    report("instances of no component of the document, left out", places.getNbLeftOut());
+}
+
+// What was odd has been told when the document was read.
+static void readMeshes(CToolDocument& document, CFileReadStream& stream, CMeshSink& sink)
+{
+    stream.setPosition(0);
+    document.feedback().setReceiver([](const std::string&) {});
+    document->readCData(&stream, &sink);
+    document.feedback().clearBar();
+    stream.check();
+}
+
+static std::string mtlBeside(const std::string& obj)
+{
+    std::string mtl = std::filesystem::path(obj).replace_extension(".mtl").string();
+    return mtl == obj ? obj + ".mtl" : mtl;
 }
 
 void toModelCommand(const std::string& in, const std::string& obj)
 {
     CFileReadStream stream(in);
     CAtomicFile file(obj);
-    CObjWriter writer(file.stream());
-    CMeshSink sink(writer);
     CToolDocument document;
-    document.read(stream, in, &sink);
+    CNoMeshes noMeshes;
+    document.read(stream, in, &noMeshes);
+    // Meshes come first in a file, but what places and colours them behind.
+    const CObjPlaces places(*document);
+    const CObjMaterials materials(*document);
+    std::optional<CAtomicFile> mtlFile;
+    if (!materials.text().empty()) {
+        const std::string mtl = mtlBeside(obj);
+        mtlFile.emplace(mtl).stream().writeText(materials.text());
+        file.stream().writeText("mtllib " + std::filesystem::path(mtl).filename().string() + "\n");
+    }
+    CObjWriter writer(file.stream(), places, materials);
+    CMeshSink sink(writer);
+    readMeshes(document, stream, sink);
+    writer.finish();
+    file.check();
+    if (mtlFile)
+        mtlFile->commit();
     file.commit();
-    reportLosses(writer, in);
+    reportLosses(writer, places, in);
 }
 
 } // namespace tool

@@ -1,0 +1,192 @@
+#include "tools/CSceneBuilder.h"
+
+#include "tools/CToolError.h"
+#include "tools/interrupt.h"
+
+#include <zel/IZelMgr.h>
+
+#include <algorithm>
+#include <assimp/scene.h>
+#include <cmath>
+#include <initializer_list>
+#include <new>
+#include <set>
+
+namespace tool {
+
+using OvZel::CZelBox;
+using OvZel::CZelPoint;
+using OvZel::CZelUUID;
+
+template <class T>
+static T& added(OvZel::TZelObjectMgr<T>* list)
+{
+    T* object = list->newZelObject(-1);
+    if (!object)
+        throw std::bad_alloc();
+    return *object;
+}
+
+static CTransform transformOf(const aiNode& node)
+{
+    const aiMatrix4x4& m = node.mTransformation;
+    const CTransform transform{
+        {{m.a1, m.a2, m.a3, m.a4}, {m.b1, m.b2, m.b3, m.b4}, {m.c1, m.c2, m.c3, m.c4}}};
+    if (!transform.isFinite())
+        throw CToolError(eNotReadable, "the model has a place that isn't a number");
+    return transform;
+}
+
+static double distance(const CZelPoint& a, const CZelPoint& b)
+{
+    return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z);
+}
+
+// As a file keeps it, and without a zero below zero.
+static double rounded(double number)
+{
+    return std::round(number * 1e6) / 1e6 + 0.0;
+}
+
+static CZelPoint rounded(const CZelPoint& point)
+{
+    return {rounded(point.x), rounded(point.y), rounded(point.z)};
+}
+
+// Nothing when some point of the box would come to lie visibly beside where the transform puts it.
+static std::optional<CPlacement> exactPlacement(const CTransform& transform, const CZelBox& box)
+{
+    const std::optional<CPlacement> nearest = transform.nearestPlacement();
+    if (!nearest)
+        return std::nullopt;
+    const CPlacement placement{rounded(nearest->translation), rounded(nearest->rotation),
+                               rounded(nearest->scale)};
+    const CTransform kept = CTransform::of(placement);
+    const double size = distance(transform.apply(box.minimum), transform.apply(box.maximum));
+    double error = 0.0;
+    for (const double x : {box.minimum.x, box.maximum.x})
+        for (const double y : {box.minimum.y, box.maximum.y})
+            for (const double z : {box.minimum.z, box.maximum.z})
+                error =
+                    std::max(error, distance(transform.apply({x, y, z}), kept.apply({x, y, z})));
+    // The points of the component are rounded too, before they are scaled.
+    const CZelPoint& scale = placement.scale;
+    error += 0.9e-6 * std::max({std::abs(scale.x), scale.y, scale.z});
+    return error <= 2e-6 * (1.0 + size) ? std::optional(placement) : std::nullopt;
+}
+
+void CSceneBuilder::addMaterials()
+{
+    mMaterials.addTo(*mDocument.getProperties());
+}
+
+void CSceneBuilder::addWhole()
+{
+    mSource.setWhole(mMaterials.getIndices());
+}
+
+void CSceneBuilder::findPlacesAt(const CPlace& place)
+{
+    for (unsigned i = 0; i < place.node->mNumMeshes; ++i) {
+        const unsigned mesh = place.node->mMeshes[i];
+        if (mesh >= mScene.mNumMeshes || mSource.getNbPolygons(mesh) == 0)
+            continue;
+        CPlace& found = mPlaces.emplace_back(place);
+        found.mesh = mesh;
+        found.placement = exactPlacement(place.transform, mSource.getBox(mesh));
+    }
+}
+
+void CSceneBuilder::findPlaces()
+{
+    std::vector<CPlace> waiting{{0, mScene.mRootNode, mScene.mRootNode, {}, {}}};
+    waiting.back().transform = transformOf(*mScene.mRootNode);
+    while (!waiting.empty()) {
+        checkInterrupt();
+        const CPlace place = waiting.back();
+        waiting.pop_back();
+        findPlacesAt(place);
+        for (unsigned i = place.node->mNumChildren; i-- > 0;) {
+            const aiNode* child = place.node->mChildren[i];
+            CPlace& below = waiting.emplace_back(place);
+            below.node = child;
+            below.top = place.node == mScene.mRootNode ? child : place.top;
+            below.transform = place.transform * transformOf(*child);
+        }
+    }
+}
+
+static std::string nameOf(const aiMesh& mesh, unsigned number)
+{
+    return mesh.mName.length > 0 ? mesh.mName.C_Str() : "mesh_" + std::to_string(number);
+}
+
+CZelUUID CSceneBuilder::addDefinition(unsigned mesh, const std::string& name)
+{
+    OvZel::IZelZelObjectDefinition& definition = added(mDocument.getDefinitions());
+    definition.setClass("ModelObject");
+    definition.getBasicData()->setName(name.c_str());
+    const unsigned material = mScene.mMeshes[mesh]->mMaterialIndex;
+    if (material < mScene.mNumMaterials) {
+        OvZel::IZelProperty& property = added(definition.getProperties());
+        const std::int32_t index = mMaterials.getIndices()[material];
+        property.copyFrom(mDocument.getProperties()->getZelObject(index));
+    }
+    return *definition.getBasicData()->getId();
+}
+
+CZelUUID CSceneBuilder::componentOf(const CPlace& place)
+{
+    if (place.placement)
+        return mComponents.at(place.mesh);
+    const CZelUUID id = addDefinition(place.mesh, place.node->mName.C_Str());
+    mSource.setComponent(id, place.mesh, &place.transform);
+    return id;
+}
+
+CZelUUID CSceneBuilder::layerOf(const std::string& name)
+{
+    const auto known = mLayers.find(name);
+    if (known != mLayers.end())
+        return known->second;
+    OvZel::IZelLayer& layer = added(mDocument.getLayers());
+    layer.getBasicData()->setName(name.c_str());
+    return mLayers[name] = *layer.getBasicData()->getId();
+}
+
+void CSceneBuilder::addInstance(const CPlace& place)
+{
+    OvZel::IZelObjectInstance& instance = added(mDocument.getObjectInstances());
+    instance.setClass("ModelObject");
+    instance.getBasicData()->setName(place.node->mName.C_Str());
+    instance.asInternalComponentInstance()->setComponentUUID(componentOf(place));
+    const CPlacement placement = place.placement.value_or(CPlacement());
+    instance.setTranslation(placement.translation);
+    instance.setRotation(placement.rotation);
+    instance.setScale(placement.scale);
+    instance.setLayerId(layerOf(place.top->mName.C_Str()));
+}
+
+void CSceneBuilder::addComponents()
+{
+    findPlaces();
+    std::set<unsigned> moved;
+    for (const CPlace& place : mPlaces)
+        if (place.placement)
+            mComponents[place.mesh];
+        else
+            moved.insert(place.mesh);
+    for (unsigned i = 0; i < mScene.mNumMeshes; ++i) {
+        const bool isPlaced = mComponents.count(i) > 0;
+        if (mSource.getNbPolygons(i) == 0 || (!isPlaced && moved.count(i) > 0))
+            continue;
+        const CZelUUID id = addDefinition(i, nameOf(*mScene.mMeshes[i], i));
+        mSource.setComponent(id, i);
+        if (isPlaced)
+            mComponents[i] = id;
+    }
+    for (const CPlace& place : mPlaces)
+        addInstance(place);
+}
+
+} // namespace tool
