@@ -22,6 +22,7 @@ public:
     ~CDocument() { release(); }
 
     OvZel::IZelMgr* operator->() const { return mDocument; }
+    OvZel::IZelMgr* get() const { return mDocument; }
 
     void release()
     {
