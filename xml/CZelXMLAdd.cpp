@@ -1,6 +1,7 @@
 #include "xml/CZelXMLAdd.h"
 
 #include "core/OvThrow.h"
+#include "xml/hexWord.h"
 #include "xml/tree/CXMLText.h"
 
 #include <cstdarg>
@@ -148,7 +149,9 @@ void CZelXMLAdd::AddAttributeLabel(const char* name, const CZelLabel* table,
 void CZelXMLAdd::AddUUID(const char* name, const CZelUUID& id) const
 {
     char text[33];
-    id.toText(text);
+    for (std::size_t i = 0; i < 4; ++i)
+        encodeHexWord(id.bytes + i * 4, text + i * 8);
+    text[32] = '\0';
     AddAttribute(name, text);
 }
 

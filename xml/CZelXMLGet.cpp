@@ -1,9 +1,11 @@
 #include "xml/CZelXMLGet.h"
 
 #include "core/OvThrow.h"
+#include "xml/hexWord.h"
 #include "xml/tree/CXMLText.h"
 
 #include <cstdarg>
+#include <cstring>
 
 namespace OvZel {
 
@@ -20,6 +22,17 @@ const char* requiredText(XIXMLElement* element, const char* operation)
     if (*text == '\0')
         OvThrow::IfNULL(element->GetFirstText(), operation);
     return text;
+}
+
+/// Eight digits at once, as a file has them; any other form is left to the identifier itself.
+CZelUUID toId(const char* text)
+{
+    constexpr std::size_t kNbDigits = 32;
+    CZelUUID id;
+    std::uint64_t bad = ::strnlen(text, kNbDigits) < kNbDigits;
+    for (std::size_t i = 0; i < 4 && bad == 0; ++i)
+        bad = decodeHexWord(text + i * 8, id.bytes + i * 4);
+    return bad == 0 ? id : CZelUUID(text);
 }
 
 } // namespace
@@ -115,7 +128,7 @@ int CZelXMLGet::GetFmtAttribute(const char* name, const char* format, ...) const
 
 CZelUUID CZelXMLGet::GetUUID(const char* name) const
 {
-    return CZelUUID(getAttribute(name, "CZelXMLGet::GetUUID")->GetValue());
+    return toId(getAttribute(name, "CZelXMLGet::GetUUID")->GetValue());
 }
 
 std::int32_t CZelXMLGet::GetAttributeLabel(const char* name, const CZelLabel* table) const

@@ -139,17 +139,16 @@ CZelColor CZelXMLGet::GetColor(const char* tag) const
 
 CZelColor CZelXMLGet::GetColor() const
 {
-    std::int32_t red = 0, green = 0, blue = 0;
-    if (findAttribute("R") != nullptr) {
-        GetFmtAttribute("R", "%d", &red);
-        GetFmtAttribute("G", "%d", &green);
-        GetFmtAttribute("B", "%d", &blue);
-    } else {
-        red = GetInteger("Red");
-        green = GetInteger("Green");
-        blue = GetInteger("Blue");
-    }
-    return {{0, lowByte(red), lowByte(green), lowByte(blue)}};
+    const auto part = [this](const char* name) {
+        std::int32_t value = 0;
+        const char* text = getAttribute(name, "CZelXMLGet::GetFmtAttribute")->GetValue();
+        OrvaneXML::scanInteger(text, value);
+        return lowByte(value);
+    };
+    if (findAttribute("R") != nullptr)
+        return {{0, part("R"), part("G"), part("B")}};
+    return {
+        {0, lowByte(GetInteger("Red")), lowByte(GetInteger("Green")), lowByte(GetInteger("Blue"))}};
 }
 
 std::array<double, 16> CZelXMLGet::GetZelMatrix(const char* tag) const

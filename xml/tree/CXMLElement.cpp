@@ -250,7 +250,7 @@ void CXMLElement::SetCData(XIXMLData::IXMLCData* provider)
 
 XCXMLKey CXMLElement::MakeKey(const char* name) const
 {
-    return CXMLNames::KeyOf(Store().names.Intern(textOrEmpty(name)));
+    return CXMLNames::KeyOf(Store().names.InternTag(textOrEmpty(name)));
 }
 
 void CXMLElement::SetKey(XCXMLKey key)

@@ -2,9 +2,11 @@
 
 #include <zel/xml/XCXMLKey.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <memory>
 #include <string_view>
 #include <vector>
 
@@ -69,6 +71,16 @@ public:
         const SXMLName* guess = mLast ? mLast->follower : nullptr;
         return mLast = guess && guess->Is(name) ? guess : Lookup(name);
     }
+    /// The same for a tag in the code, which is asked for again and again by the same address.
+    const SXMLName* InternTag(const char* tag)
+    {
+        if (!mTags && ++mNbAsked < kManyAsked)
+            return Intern(tag);
+        SKnownTag& known = KnownTag(tag);
+        if (known.address != tag || std::strcmp(known.name->text(), tag) != 0)
+            known = {tag, Intern(tag)};
+        return known.name;
+    }
     /// The record of a key's name in this tree, made if there is none.
     const SXMLName* Resolve(XCXMLKey key);
     /// The same, or null if this tree has no such name.
@@ -81,6 +93,20 @@ public:
     }
 
 private:
+    struct SKnownTag {
+        const char* address = nullptr;
+        const SXMLName* name = nullptr;
+    };
+    static constexpr int kNbTagBits = 10;
+    static constexpr std::uint32_t kManyAsked = 1024; // before, a small tree stays small
+
+    SKnownTag& KnownTag(const char* tag)
+    {
+        if (!mTags)
+            mTags = std::make_unique<std::array<SKnownTag, 1 << kNbTagBits>>();
+        const std::uint64_t mixed = reinterpret_cast<std::uintptr_t>(tag) * 0x9E3779B97F4A7C15u;
+        return (*mTags)[mixed >> (64 - kNbTagBits)];
+    }
     std::uint32_t HashOf(std::string_view name) const;
     std::size_t SlotOf(std::string_view name, std::uint32_t hash) const;
     const SXMLName* Add(std::string_view name, std::uint32_t hash);
@@ -91,6 +117,8 @@ private:
     std::vector<const SXMLName*> mTable; // open addressing, a power of two
     std::size_t mNbNames = 0;
     const SXMLName* mLast = nullptr;
+    std::unique_ptr<std::array<SKnownTag, 1 << kNbTagBits>> mTags;
+    std::uint32_t mNbAsked = 0;
 };
 
 } // namespace OrvaneXML

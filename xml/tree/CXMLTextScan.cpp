@@ -76,7 +76,7 @@ long decimalPower(const char* text, const char* end)
     return static_cast<long>(point - first) + exponent;
 }
 
-/// The digits at `text`, up to 15 of them with those before, joined to `digits`.
+/// Joins the digits at `text`, at most so many, to `digits`, and tells how many there were.
 int takeDigits(const char*& text, std::uint64_t& digits, int most)
 {
     int nb = 0;
@@ -289,6 +289,13 @@ bool scanReal(const char* text, double& value)
 
 bool scanInteger(const char* text, int& value)
 {
+    constexpr int kFits = 9;
+    const char* rest = text + (*text == '-');
+    std::uint64_t digits = 0;
+    if (takeDigits(rest, digits, kFits) > 0 && !*rest) {
+        value = *text == '-' ? -static_cast<int>(digits) : static_cast<int>(digits);
+        return true;
+    }
     return scanTextf(text, "%d", &value) == 1;
 }
 

@@ -236,6 +236,18 @@ TEST(PrintReal, IsWhatTheFormatPrints)
     }
 }
 
+TEST(ScanInteger, IsWhatTheFormatReads)
+{
+    for (const char* text :
+         {"", "-", "0", "-0", "7", "-7", "+7", " 7", "7 ", "7x", "007", "123456789", "-123456789",
+          "1234567890", "2147483648", "99999999999999999999"}) {
+        int fast = 77, plain = 77;
+        const bool isRead = OrvaneXML::scanInteger(text, fast);
+        EXPECT_EQ(isRead, OrvaneXML::scanTextf(text, "%d", &plain) == 1) << text;
+        EXPECT_EQ(fast, plain) << text;
+    }
+}
+
 TEST(ScanReal, IsWhatTheFormatReads)
 {
     std::vector<std::string> texts = {"",    "-",   ".",    "-.5",  "1.",    "+1",    " 2",
