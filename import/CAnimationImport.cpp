@@ -69,6 +69,8 @@ void CAnimationImport::mergeValues(IZelAnimatedElement& destination, IZelAnimate
 
 void CAnimationImport::bringPath(const CZelUUID& id)
 {
+    if (!mBrought.insert(id).second)
+        return;
     if (IZel3DPath* path = mSourcePaths.find(id))
         mPaths.merge(*path);
 }

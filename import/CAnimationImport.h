@@ -6,6 +6,7 @@
 #include <zel/IZelScenario.h>
 
 #include <optional>
+#include <set>
 
 namespace OvZel {
 
@@ -42,6 +43,8 @@ private:
     std::optional<TIdIndex<IZelAnimatedElement>> mDestinationElements;
     TIdIndex<IZel3DPath> mSourcePaths;
     TMerger<IZel3DPath, CIdOf> mPaths;
+    /// Many values may share a long path; a second copy in one call would be the same.
+    std::set<CZelUUID> mBrought;
 };
 
 } // namespace OvZel

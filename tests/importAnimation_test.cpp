@@ -162,6 +162,24 @@ TEST_F(ImportAnimation, HeliodonsInstancesAndSequencesBringTheirsToo)
     EXPECT_EQ(element(2).getId(), idOfNumber(3));
 }
 
+TEST_F(ImportAnimation, TheCategoriesComeInAFixedOrder)
+{
+    IZelScenario& scenario = add(from().getScenarios());
+    const CZelUUID id = idOfNumber(1);
+    addView(scenario.getSequences(), "A").getBasicData()->setId(&id);
+    for (IZelMgr* document : {&to(), &from()}) {
+        add(document->getHeliodons(), "A", idOfNumber(2));
+        add(document->getLights(), "A", idOfNumber(3));
+    }
+    addInstance(from(), "A", idOfNumber(4), CZelUUID());
+    for (const int number : {1, 2, 3, 4})
+        addElement(scenario, idOfNumber(number));
+    import(kInstances | kLights | kHeliodons | kSequences);
+    ASSERT_EQ(to().getScenarios()->getZelObject(0)->getAnimatedElements()->getNbObjects(), 4);
+    for (const int number : {4, 3, 2, 1})
+        EXPECT_EQ(element(4 - number).getId(), idOfNumber(number));
+}
+
 TEST_F(ImportAnimation, ACopyWithAnIdentifierOfItsOwnFindsNone)
 {
     IZelScenario& scenario = add(from().getScenarios());

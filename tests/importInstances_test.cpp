@@ -105,9 +105,10 @@ TEST_F(ImportInstances, ALayerThatKeptItsIdentifierBecomesActiveAndDefault)
 {
     const char* classes[] = {"ModelObject",    "Billboard", "ZelObject",
                              "AnimatedObject", "3DPlant",   "LightObject"};
-    for (const int number : {1, 2}) { // kept, renewed
+    for (const int number : {1, 2, 3}) { // kept, renewed, made by the import
         CImportPair pair;
-        add(pair.destination->getLayers(), "Trees", idOfNumber(1));
+        if (number < 3)
+            add(pair.destination->getLayers(), "Trees", idOfNumber(1));
         const CZelUUID here = idOf(add(pair.source->getLayers(), "Trees", idOfNumber(number)));
         pair.source->getLayerInfo()->setActiveLayer(here);
         for (const char* each : classes)
@@ -115,11 +116,22 @@ TEST_F(ImportInstances, ALayerThatKeptItsIdentifierBecomesActiveAndDefault)
         addInstance(*pair.source.get(), "a", idOfNumber(10), here);
         pair.import(kInstances);
         IZelLayerInfo& info = *pair.destination->getLayerInfo();
-        const CZelUUID expected = number == 1 ? here : CZelUUID();
+        const CZelUUID expected = number != 2 ? here : CZelUUID();
         EXPECT_EQ(info.getActiveLayer(), expected);
         for (const char* each : classes)
             EXPECT_EQ(info.getDefaultLayer(each), expected) << each;
     }
+}
+
+TEST_F(ImportInstances, ALayerWithoutAnIdentifierIsNoDefaultLayer)
+{
+    add(to().getLayers(), "Trees", CZelUUID());
+    to().getLayerInfo()->setDefaultLayer("Billboard", idOfNumber(1));
+    const CZelUUID here = idOf(add(from().getLayers(), "Trees", CZelUUID()));
+    addInstance(from(), "a", idOfNumber(10), here);
+    import(kInstances);
+    EXPECT_EQ(nbInstances(), 1);
+    EXPECT_EQ(to().getLayerInfo()->getDefaultLayer("Billboard"), idOfNumber(1));
 }
 
 TEST_F(ImportInstances, OnlySomeClassesComeButEveryLayerDoes)
@@ -142,11 +154,13 @@ TEST_F(ImportInstances, OnlySomeClassesComeButEveryLayerDoes)
         const CZelUUID here = idOf(add(pair.source->getLayers(), "L"));
         for (const std::int32_t level : each.levels)
             addComponent(*pair.source.get(), "C", level);
+        pair.source->getLayerInfo()->setActiveLayer(here);
         addInstance(*pair.source.get(), "a", idOfNumber(10), here, each.text);
         pair.import(kInstances);
         EXPECT_EQ(pair.destination->getObjectInstances()->getNbObjects(), each.comes ? 1 : 0)
             << each.text << " " << testing::PrintToString(each.levels);
         EXPECT_EQ(pair.destination->getLayers()->getNbObjects(), 1);
+        EXPECT_EQ(pair.destination->getLayerInfo()->getActiveLayer() == here, each.comes);
     }
 }
 
@@ -178,6 +192,21 @@ TEST_F(ImportInstances, WhatStoodOnTheTopLevelStandsOnNothing)
         EXPECT_EQ(copy.getAttachId().isNull(), each.isDetached);
         EXPECT_EQ(copy.getTriangleId(), each.isDetached ? -1 : 3);
     }
+}
+
+TEST_F(ImportInstances, APartnerOfAnotherClassBecomesOneOfThatClass)
+{
+    const CZelUUID there = layer(to(), "Trees", 1);
+    const CZelUUID here = layer(from(), "Trees", 2);
+    addInstance(to(), "old", idOfNumber(10), there, "Billboard");
+    addInstance(from(), "new", idOfNumber(10), here, "ModelObject");
+    import(kInstances);
+    ASSERT_EQ(nbInstances(), 1);
+    EXPECT_STREQ(instance(0).getClass(), "ModelObject");
+    EXPECT_NE(instance(0).asInternalComponentInstance(), nullptr);
+    EXPECT_EQ(instance(0).asBBObjectInstance(), nullptr);
+    EXPECT_TRUE(destination.write());
+    EXPECT_THAT(takeMessages(), IsEmpty());
 }
 
 TEST_F(ImportInstances, ALayerWithoutInstancesStaysBehind)

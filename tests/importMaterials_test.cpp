@@ -1,5 +1,9 @@
 #include "tests/support/CImportPair.h"
 
+#include <zel/IMappingNode.h>
+#include <zel/ITCENode.h>
+#include <zel/IZelTCE.h>
+
 #include <gtest/gtest.h>
 
 // Materials in the reference import.
@@ -100,6 +104,58 @@ TEST_F(ImportMaterials, WithoutLayersTheDocumentsMaterialsAreTheSource)
     EXPECT_EQ(ash.getScale(), 1.0);
 }
 
+TEST_F(ImportMaterials, InstancesThatCameInTheSameCallTakeTheirMaterialsToo)
+{
+    addComponent(from(), "C", 1);
+    addOverride(addComponentInstance(from(), "House"), true, "Oak", 3.0);
+    add(from().getProperties(), "Oak").setScale(2.0);
+    import(kMaterials | 0x040);
+    ASSERT_EQ(to().getObjectInstances()->getNbObjects(), 1);
+    EXPECT_EQ(
+        to().getObjectInstances()->getZelObject(0)->getProperties()->getZelObject(0)->getScale(),
+        2.0);
+}
+
+/// A new node below the parent.
+ITCENode& addNode(IZelProperty& property, ITCENode& parent, eNodeType type)
+{
+    ITCENode* node = property.getTCE()->createNode(type);
+    node->setParent(&parent);
+    parent.addChild(node);
+    node->Release();
+    return *node;
+}
+
+/// A mapping node below another one, which it names as its parent.
+void addNestedMappings(IZelProperty& property)
+{
+    ITCENode& root = *property.getTCE()->getRootNode();
+    root.removeChild(0);
+    ITCENode& outer = addNode(property, root, eMappingNode);
+    ITCENode& inner = addNode(property, outer, eMappingNode);
+    addNode(property, inner, eLeafNode);
+    outer.asMappingNode()->setMappingNodeId(idOfNumber(40));
+    inner.asMappingNode()->setMappingNodeId(idOfNumber(41));
+    inner.asMappingNode()->setParentMappingNodeId(idOfNumber(40));
+}
+
+TEST_F(ImportMaterials, MappingsOfACopyHaveNewIdentitiesAndStillFindTheirParents)
+{
+    add(from().getLayers(), "L");
+    addComponent(from(), "C", 1);
+    IZelProperty& oak = addOverride(addComponentInstance(to(), "A"), true, "Oak", 1.0);
+    addNestedMappings(addOverride(addComponentInstance(from(), "A"), true, "Oak", 2.0));
+    import(kMaterials);
+    ASSERT_EQ(oak.getTCE()->getRootNode()->getNbChilds(), 1);
+    ITCENode& outer = *oak.getTCE()->getRootNode()->getChild(0);
+    ASSERT_NE(outer.asMappingNode(), nullptr);
+    const IMappingNode& inner = *outer.getChild(0)->asMappingNode();
+    EXPECT_NE(outer.asMappingNode()->getMappingNodeId(), idOfNumber(40));
+    EXPECT_NE(inner.getMappingNodeId(), idOfNumber(41));
+    EXPECT_EQ(inner.getParentMappingNodeId(), outer.asMappingNode()->getMappingNodeId());
+    EXPECT_TRUE(takeMessages().empty());
+}
+
 TEST_F(ImportMaterials, WithoutComponentsTheDocumentsMaterialsStandForNothing)
 {
     addComponent(from(), "C", 2);
@@ -165,8 +221,13 @@ TEST_F(ImportMaterials, TheGroundsMaterialComesIfItHasTheSameName)
         IZelGround& here = add(pair.source->getGrounds());
         here.getProperty()->getBasicData()->setName(name);
         here.getProperty()->setScale(2.0);
+        here.getProperty()->setOverloadId(idOfNumber(1));
+        const CZelUUID id = idOf(*there.getProperty());
         pair.import(kMaterials);
         EXPECT_EQ(there.getProperty()->getScale(), expected) << name;
+        // Copied as a whole, unlike those that go by way of their file form.
+        EXPECT_EQ(there.getProperty()->getOverloadId() == idOfNumber(1), expected == 2.0);
+        EXPECT_EQ(idOf(*there.getProperty()), id);
         EXPECT_EQ(there.getHeight(), 5.0);
     }
 }

@@ -47,14 +47,27 @@ TEST_F(ImportViews, LayersOfTheSameNameAreTranslated)
                     ElementsAre(idOfNumber(4), idOfNumber(1), idOfNumber(9), idOfNumber(1)));
 }
 
+TEST_F(ImportViews, LayersThatInstancesBroughtAreTranslatedTo)
+{
+    add(from().getLayers(), "Trees", idOfNumber(3));
+    add(from().getLayers(), "Trees", idOfNumber(4));
+    addInstance(from(), "a", idOfNumber(10), idOfNumber(3));
+    addId(addView(from().getCameras(), "A").getViewInfo()->getLayers(), idOfNumber(4));
+    import(kCameras | 0x040);
+    EXPECT_THAT(idsOf(to().getCameras()->getZelObject(0)->getViewInfo()->getLayers()),
+                ElementsAre(idOfNumber(3)));
+}
+
 TEST_F(ImportViews, HeliodonAndGroupsComeAlong)
 {
     for (int kind = 0; kind < 5; ++kind) {
         CImportPair pair;
-        IZelViewInfo& info =
-            *addViews(*pair.source.get(), "A")[static_cast<std::size_t>(kind)]->getViewInfo();
-        info.setHeliodonName("Sun");
-        addId(info.getLightsGroups(), idOfNumber(1));
+        for (const char* name : {"A", "B"}) { // what both use comes once
+            IZelViewInfo& info =
+                *addViews(*pair.source.get(), name)[static_cast<std::size_t>(kind)]->getViewInfo();
+            info.setHeliodonName("Sun");
+            addId(info.getLightsGroups(), idOfNumber(1));
+        }
         add(pair.source->getLightsGroups(), "G", idOfNumber(1));
         add(pair.source->getHeliodons(), "Sun").setNorthAngle(2.0);
         add(pair.source->getHeliodons(), "Moon");
@@ -88,6 +101,7 @@ TEST_F(ImportViews, WithoutLayersInTheSourceCopiedViewsShowEveryLayer)
 {
     add(to().getLayers(), "Trees", idOfNumber(1));
     add(to().getLayers(), "Cars", idOfNumber(2));
+    add(to().getLayers(), "Bikes", idOfNumber(1)); // shown with the trees
     const std::vector<IZelViewBasic*> paired = addViews(to(), "A");
     const std::vector<IZelViewBasic*> untouched = addViews(to(), "B");
     for (IZelViewBasic* view : addViews(from(), "A"))
@@ -106,7 +120,7 @@ TEST_F(ImportViews, WithoutLayersInTheSourceCopiedViewsShowEveryLayer)
         EXPECT_THAT(idsOf(view->getViewInfo()->getLayers()), IsEmpty());
     EXPECT_THAT(idsOf(to().getCameras()->getZelObject(2)->getViewInfo()->getLayers()),
                 ElementsAre(idOfNumber(1), idOfNumber(2)));
-    EXPECT_EQ(to().getLayers()->getNbObjects(), 2);
+    EXPECT_EQ(to().getLayers()->getNbObjects(), 3);
 }
 
 TEST_F(ImportViews, OneLayerInTheSourceIsEnoughToShowNoMore)
@@ -188,6 +202,26 @@ TEST_F(ImportViews, APanoramasNodesLinksAndMarksAreRenewedTogether)
     EXPECT_EQ(copy.getLinks()->getZelObject(1)->getStart(), nodes[1]);
     EXPECT_TRUE(copy.getLinks()->getZelObject(1)->getEnd().isNull());
     EXPECT_EQ(exported.getStartNode(), idOfNumber(102)); // the source is as it was
+}
+
+TEST_F(ImportViews, AnOlderPanoramaTakesTheNodesAndLinksOfTheNewOne)
+{
+    IZelPanoramaV2& partner = addPanorama(to(), {{0, 1}, {1, 2}, {2, 0}});
+    const CZelUUID id = idOf(partner);
+    add(partner.getNodes(), "fourth");
+    IZelPanoramaV2& exported = addPanorama(from(), {{2, 1}});
+    exported.setStartNode(idOfNumber(102));
+    import(kPanoramas);
+    ASSERT_EQ(to().getPanoramas()->getNbObjects(), 1);
+    EXPECT_EQ(idOf(partner), id);
+    ASSERT_EQ(partner.getNodes()->getNbObjects(), 3);
+    ASSERT_EQ(partner.getLinks()->getNbObjects(), 1);
+    const CZelUUID last = idOf(*partner.getNodes()->getZelObject(2));
+    EXPECT_NE(last, idOfNumber(102));
+    EXPECT_EQ(partner.getStartNode(), last);
+    EXPECT_EQ(partner.getLinks()->getZelObject(0)->getStart(), last);
+    EXPECT_EQ(partner.getLinks()->getZelObject(0)->getEnd(),
+              idOf(*partner.getNodes()->getZelObject(1)));
 }
 
 TEST_F(ImportViews, MarksThatNameNoNodeBecomeNull)

@@ -127,6 +127,15 @@ TEST(Import, NothingIsRemovedFromTheDestination)
     EXPECT_EQ(pair.destination.save(), before);
 }
 
+TEST(Import, WithoutACategoryNoViewShowsMoreLayers)
+{
+    CFullPair pair;
+    pair.source->getLayers()->removeAllObjects();
+    const std::string before = pair.destination.save();
+    pair.import(0);
+    EXPECT_EQ(pair.destination.save(), before);
+}
+
 TEST(Import, AnEmptyDestinationTakesAllButMaterials)
 {
     CFullPair pair;
@@ -186,6 +195,23 @@ TEST(Import, NamesPairExactlyAndTheFirstOfANameCounts)
     for (std::int32_t i = 0; i < lights->getNbObjects(); ++i)
         powers.push_back(lights->getZelObject(i)->getPower());
     EXPECT_THAT(powers, ElementsAre(1.0, 2.0, 1.0, 4.0, 3.0));
+}
+
+TEST(Import, EveryNameFindsItselfAgain)
+{
+    CImportPair pair;
+    const char* names[] = {"",         " ",        "a\r\n\tb", "<&\"'>",
+                           "\x01\x7F", "\xFF\xC3", "\xC3\xA9", "%s%n"};
+    for (const char* name : names) {
+        add(pair.source->getLights(), name);
+        addView(pair.source->getCameras(), name);
+    }
+    for (int i = 0; i < 2; ++i) {
+        pair.import(0x090);
+        EXPECT_THAT(namesOf(pair.destination->getLights()), testing::ElementsAreArray(names));
+        EXPECT_THAT(namesOf(pair.destination->getCameras()), testing::ElementsAreArray(names));
+    }
+    EXPECT_THAT(pair.takeMessages(), IsEmpty());
 }
 
 TEST(Import, OfTwoSourceObjectsWithOneNameTheSecondWins)
@@ -291,6 +317,13 @@ TEST(Import, AFeedbackThatThrowsStopsNothing)
 }
 
 /// Processor time, so that a busy machine doesn't count.
+double secondsToImport(CImportPair& pair, std::int32_t flags)
+{
+    const std::clock_t start = std::clock();
+    pair.import(flags);
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+}
+
 double secondsToImportLights(int count)
 {
     CImportPair pair;
@@ -298,12 +331,35 @@ double secondsToImportLights(int count)
         add(pair.destination->getLights(), std::to_string(i).c_str());
         add(pair.source->getLights(), std::to_string(count - 1 - i).c_str()).setPower(i + 1.0);
     }
-    const std::clock_t start = std::clock();
-    pair.import(0x010);
-    const std::clock_t end = std::clock();
+    const double seconds = secondsToImport(pair, 0x010);
     EXPECT_EQ(pair.destination->getLights()->getNbObjects(), count);
     EXPECT_EQ(pair.destination->getLights()->getZelObject(0)->getPower(), count);
-    return static_cast<double>(end - start) / CLOCKS_PER_SEC;
+    return seconds;
+}
+
+/// So many lights move on one path with as many points.
+double secondsToImportOnePath(int count)
+{
+    CImportPair pair;
+    IZelScenario& scenario = firstScenario(*pair.source.get());
+    IZel3DPath& path = add(pair.source->get3DPaths(), "", idOfNumber(1));
+    for (int i = 0; i < count; ++i) {
+        const std::string name = std::to_string(i);
+        const CZelUUID id = idOf(add(pair.destination->getLights(), name.c_str()));
+        add(pair.source->getLights(), name.c_str());
+        IZelAnimatedElement& element = add(scenario.getAnimatedElements());
+        element.setId(id);
+        IZelInterpolatedValue& value = add(element.getInterpolatedValues());
+        value.setChannel(1);
+        value.setPathId(idOfNumber(1));
+        add(path.getBezierPoints());
+    }
+    const double seconds = secondsToImport(pair, 0x010);
+    TZelObjectMgr<IZel3DPath>& paths = *pair.destination->get3DPaths();
+    EXPECT_EQ(paths.getNbObjects(), 1);
+    EXPECT_EQ(paths.getZelObject(0)->getBezierPoints()->getNbObjects(), count);
+    EXPECT_EQ(firstScenario(*pair.destination.get()).getAnimatedElements()->getNbObjects(), count);
+    return seconds;
 }
 
 TEST(Import, TimeGrowsWithTheLengthOfTheListsNotWithItsSquare)
@@ -311,6 +367,13 @@ TEST(Import, TimeGrowsWithTheLengthOfTheListsNotWithItsSquare)
     const double few = secondsToImportLights(2000);
     const double many = secondsToImportLights(20'000);
     EXPECT_LT(many, 45.0 * few); // in proportion about 10; a walk for each light makes it above 100
+}
+
+TEST(Import, APathThatManyShareIsCopiedOnce)
+{
+    const double few = secondsToImportOnePath(400);
+    const double many = secondsToImportOnePath(4000);
+    EXPECT_LT(many, 45.0 * few);
 }
 
 } // namespace

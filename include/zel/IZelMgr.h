@@ -213,6 +213,9 @@ public:
     /// instances, layers, lights groups, sequences, animated elements and 3D paths. Instances that
     /// lie on no layer of the source have no partner: a second import adds them again.
     ///
+    /// Views bring along the environment, the heliodon and the lights groups that they name, lights
+    /// their groups; lights, heliodons, instances and sequences bring their animation.
+    ///
     /// Instances of the source are put on the layers of the destination, so that an open source
     /// serves one call. The read transform of the destination (setMatrix) acts on all that comes
     /// in. The same document twice does nothing.
