@@ -1,57 +1,17 @@
 // Makes a document with one square, saves it, asks the file what it is, and loads it again.
 
+#include "examples/shared/CConsole.h"
+#include "examples/shared/CFileReader.h"
+#include "examples/shared/CFileWriter.h"
+
 #include <zel/IZelMgr.h>
 
 #include <cstdio>
-#include <fstream>
 
 using namespace OvZel;
+using namespace example;
 
 namespace {
-
-class CFileReader : public IZelReadStream {
-public:
-    explicit CFileReader(const char* path) : mFile(path, std::ios::binary) {}
-
-    std::uint32_t read(void* buffer, std::uint32_t size) override
-    {
-        mFile.read(static_cast<char*>(buffer), size);
-        mFile.clear(); // at its end a file would refuse to tell or change its position
-        return static_cast<std::uint32_t>(mFile.gcount());
-    }
-    std::int64_t getPosition() override { return mFile.tellg(); }
-    void setPosition(std::int64_t position) override { mFile.seekg(position); }
-
-private:
-    std::ifstream mFile;
-};
-
-class CFileWriter : public IZelWriteStream {
-public:
-    explicit CFileWriter(const char* path) : mFile(path, std::ios::binary) {}
-
-    // The library ignores the result of write, so the file is asked at the end.
-    bool close()
-    {
-        mFile.close();
-        return mFile.good();
-    }
-
-    std::uint32_t write(const void* buffer, std::uint32_t size) override
-    {
-        mFile.write(static_cast<const char*>(buffer), size);
-        return size;
-    }
-
-private:
-    std::ofstream mFile;
-};
-
-class CConsole : public IZelFeedback {
-public:
-    void message(IZelMgr*, const char* text) override { std::fprintf(stderr, "%s\n", text); }
-    bool progress(IZelMgr*, std::int32_t, std::int32_t) override { return true; }
-};
 
 void addSquare(IZelMgr* document)
 {

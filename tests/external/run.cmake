@@ -1,5 +1,6 @@
 # Installs the build into a prefix of its own and builds the examples against what lies there, as
-# a stranger would: once by find_package, once by pkg-config. Both clients are then run.
+# a stranger would: by find_package, and the first one also by pkg-config. They are then run, all but
+# the furnished house, which has a test of its own.
 
 set(work ${BUILD_DIR}/external_client)
 set(prefix ${work}/prefix)
@@ -16,6 +17,7 @@ run(${CMAKE_COMMAND} -S ${EXAMPLES} -B ${work}/examples -G ${GENERATOR}
     -DCMAKE_PREFIX_PATH=${prefix} -DCMAKE_CXX_COMPILER=${CXX} -DCMAKE_CXX_FLAGS=${CXX_FLAGS})
 run(${CMAKE_COMMAND} --build ${work}/examples)
 run(${work}/examples/first_steps/first_steps ${work}/by_package.zel)
+run(${work}/examples/a_room/a_room ${work}/a_room.zel)
 
 set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
 execute_process(COMMAND ${PKG_CONFIG} --cflags --libs zel
@@ -23,13 +25,14 @@ execute_process(COMMAND ${PKG_CONFIG} --cflags --libs zel
 separate_arguments(package_flags UNIX_COMMAND "${package_flags}")
 separate_arguments(own_flags UNIX_COMMAND "${CXX_FLAGS}")
 run(${CXX} ${own_flags} -std=c++17 -Wall -Wextra -Wpedantic -Werror
-    ${EXAMPLES}/first_steps/main.cpp ${package_flags} -Wl,-rpath,${prefix}/${LIBDIR}
+    -I${EXAMPLES}/.. ${EXAMPLES}/first_steps/main.cpp ${package_flags} -Wl,-rpath,${prefix}/${LIBDIR}
     -o ${work}/by_pkg_config)
 run(${work}/by_pkg_config ${work}/by_pkg_config.zel)
 
 # The tool must find the library from where both were installed.
 if(EXISTS ${prefix}/bin/zel)
     run(${prefix}/bin/zel info ${work}/by_package.zel)
+    run(${prefix}/bin/zel check ${work}/a_room.zel)
     if(NOT EXISTS ${prefix}/share/man/man1/zel.1)
         message(FATAL_ERROR "The manual page isn't installed")
     endif()
