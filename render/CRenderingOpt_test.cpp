@@ -238,7 +238,6 @@ TEST(RenderingOpt, NullTextsAreEmpty)
 
 TEST(RenderingOpt, EveryValueIsStored)
 {
-    using I = IZelRenderingOpt;
     CRenderingOpt object(nullptr);
     ZelTest::expectAccessors<I>(object, {ACCESS(I, Raytracing, false),
                                          ACCESS(I, Shadow, false),

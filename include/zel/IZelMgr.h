@@ -269,7 +269,7 @@ public:
     /// take it with readPreviewImage and give it back with setImage before a save.
     virtual IZelImage* getPreviewImage() = 0;
     virtual TZelObjectMgr<IZelImage>* getImages() = 0;
-    /// The scene itself as one definition. Its name is saved only where the file last read has one.
+    /// The scene itself as one definition, saved as one whatever its class, without a mesh.
     virtual IZelZelObjectDefinition* getObjectDefinition() = 0;
     virtual TZelObjectMgr<IZelObjectInstance>* getObjectInstances() = 0;
     /// As IZelMgrRef::getLanguage and setLanguage.
@@ -295,10 +295,9 @@ public:
     /// Both give the same list.
     virtual TZelObjectMgr<IZelLayer>* getLayers() = 0;
     virtual TZelObjectMgr<IZelLayer>* getLayers2() = 0;
-    /// Null: this version has no layer information.
+    /// The active layer and the layers for new objects of each class; part of the document.
     virtual IZelLayerInfo* getLayerInfo() = 0;
-    /// The internal components. Their identifiers, levels and meshes are loaded and saved; a name
-    /// that is set here is not saved, and one in the file passes untouched.
+    /// The internal components. A document that has any saves their meshes and not its own.
     virtual TZelObjectMgr<IZelZelObjectDefinition>* getDefinitions() = 0;
     /// The supplier of meshes for saves that are given none; returns the one before. Not counted.
     virtual IZelExtStorageWriter* setExtStorageWriter(IZelExtStorageWriter* writer) = 0;
