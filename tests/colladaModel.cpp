@@ -53,6 +53,13 @@ static constexpr const char* kLibraries = R"(<?xml version="1.0"?>
 <polylist count="1" material="m"><input semantic="VERTEX" source="#bv" offset="0"/>
 <vcount>3</vcount><p>0 1 2</p></polylist></mesh></geometry>
 </library_geometries>
+<library_cameras>
+<camera id="wide" name="Wide"><optics><technique_common><perspective><xfov>60</xfov>
+<znear>0.1</znear><zfar>100</zfar></perspective></technique_common></optics></camera>
+<camera id="tall" name="Tall"><optics><technique_common><perspective><yfov>40</yfov>
+<aspect_ratio>2</aspect_ratio><znear>0.1</znear><zfar>100</zfar></perspective></technique_common>
+</optics></camera>
+</library_cameras>
 )";
 
 static std::string text(double number)
@@ -61,22 +68,34 @@ static std::string text(double number)
     return {digits, std::to_chars(digits, digits + sizeof digits, number).ptr};
 }
 
+static std::string startText(const std::string& name, const CMatrix& matrix)
+{
+    std::string numbers;
+    for (const double number : matrix)
+        numbers += text(number) + " ";
+    return "<node id=\"" + name + "\" name=\"" + name + "\"><matrix>" + numbers + "</matrix>";
+}
+
 static std::string nodeText(const CNode& node)
 {
-    std::string matrix;
-    for (const double number : node.matrix)
-        matrix += text(number) + " ";
-    return "<node id=\"" + node.name + "\" name=\"" + node.name + "\"><matrix>" + matrix +
-           "</matrix><instance_geometry url=\"#" + node.mesh +
+    return startText(node.name, node.matrix) + "<instance_geometry url=\"#" + node.mesh +
            "\"><bind_material><technique_common><instance_material symbol=\"m\" target=\"#" +
            node.material + "\"/></technique_common></bind_material></instance_geometry></node>\n";
 }
 
-std::string collada(const std::vector<CNode>& nodes)
+static std::string nodeText(const CCameraNode& node)
+{
+    return startText(node.name + " stand", node.outer) + startText(node.name, node.matrix) +
+           "<instance_camera url=\"#" + node.camera + "\"/></node></node>\n";
+}
+
+std::string collada(const std::vector<CNode>& nodes, const std::vector<CCameraNode>& cameras)
 {
     std::string all = kLibraries;
     all += "<library_visual_scenes><visual_scene id=\"vs\" name=\"Scene\">\n";
     for (const CNode& node : nodes)
+        all += nodeText(node);
+    for (const CCameraNode& node : cameras)
         all += nodeText(node);
     return all + "</visual_scene></library_visual_scenes>\n"
                  "<scene><instance_visual_scene url=\"#vs\"/></scene>\n</COLLADA>\n";

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-/// Small models as COLLADA text: three meshes, placed by nodes.
+/// Small models as COLLADA text: three meshes and two cameras, placed by nodes.
 
 using CMatrix = std::vector<double>; ///< four rows of four
 
@@ -24,5 +24,14 @@ struct CNode {
     CMatrix matrix;
 };
 
+/// A node with one of the cameras "wide", which sees 60 degrees from side to side, and "tall", 40
+/// degrees from top to bottom and twice as wide as high. It stands in a node of its own.
+struct CCameraNode {
+    std::string name;
+    std::string camera;
+    CMatrix outer; ///< of the node in which it stands
+    CMatrix matrix;
+};
+
 /// The nodes below a root "Scene".
-std::string collada(const std::vector<CNode>& nodes);
+std::string collada(const std::vector<CNode>& nodes, const std::vector<CCameraNode>& cameras = {});

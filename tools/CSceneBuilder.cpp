@@ -1,7 +1,7 @@
 #include "tools/CSceneBuilder.h"
 
-#include "tools/CToolError.h"
 #include "tools/interrupt.h"
+#include "tools/nodeTransform.h"
 
 #include <zel/IZelMgr.h>
 
@@ -27,30 +27,9 @@ static T& added(OvZel::TZelObjectMgr<T>* list)
     return *object;
 }
 
-static CTransform transformOf(const aiNode& node)
-{
-    const aiMatrix4x4& m = node.mTransformation;
-    const CTransform transform{
-        {{m.a1, m.a2, m.a3, m.a4}, {m.b1, m.b2, m.b3, m.b4}, {m.c1, m.c2, m.c3, m.c4}}};
-    if (!transform.isFinite())
-        throw CToolError(eNotReadable, "the model has a place that isn't a number");
-    return transform;
-}
-
 static double distance(const CZelPoint& a, const CZelPoint& b)
 {
     return std::hypot(a.x - b.x, a.y - b.y, a.z - b.z);
-}
-
-// As a file keeps it, and without a zero below zero.
-static double rounded(double number)
-{
-    return std::round(number * 1e6) / 1e6 + 0.0;
-}
-
-static CZelPoint rounded(const CZelPoint& point)
-{
-    return {rounded(point.x), rounded(point.y), rounded(point.z)};
 }
 
 // Nothing when some point of the box would come to lie visibly beside where the transform puts it.

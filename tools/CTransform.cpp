@@ -93,4 +93,14 @@ std::optional<CPlacement> CTransform::nearestPlacement() const
         {rows[0][3], rows[1][3], rows[2][3]}, anglesOf(matrix), {scale[0], scale[1], scale[2]}};
 }
 
+static double rounded(double number)
+{
+    return std::round(number * 1e6) / 1e6 + 0.0;
+}
+
+CZelPoint rounded(const CZelPoint& point)
+{
+    return {rounded(point.x), rounded(point.y), rounded(point.z)};
+}
+
 } // namespace tool

@@ -34,4 +34,7 @@ private:
     double determinant() const;
 };
 
+/// As a file keeps it: six decimals, and without a zero below zero.
+OvZel::CZelPoint rounded(const OvZel::CZelPoint& point);
+
 } // namespace tool

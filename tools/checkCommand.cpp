@@ -42,6 +42,12 @@ static constexpr struct {
     {"W125", "a view with a ground that does not exist"},
     {"W126", "a view with a light group that does not exist"},
     {"W127", "a view with a layer that does not exist"},
+    {"W128", "an animated object that does not exist"},
+    {"W129", "a channel along a 3D path that does not exist"},
+    {"W130", "a sequence that ends behind the maximum time of its scenario"},
+    {"W131", "a panorama that starts at a node that it does not have"},
+    {"W132", "a panorama with a current node that it does not have"},
+    {"W133", "a link of a panorama along a 3D path that does not exist"},
 };
 
 std::string findingCodes()
@@ -69,6 +75,8 @@ static void checkContent(OvZel::IZelMgr& document, CFindings& findings)
     checkLights(document, findings);
     checkInstances(document, findings);
     checkViews(document, findings);
+    checkPanoramas(document, findings);
+    checkAnimation(document, findings);
 }
 
 static EExit checkFile(const std::string& file, bool asJson, CToolOutput& output)

@@ -17,5 +17,7 @@ void checkMaterials(OvZel::IZelMgr& document, CFindings& findings);
 void checkLights(OvZel::IZelMgr& document, CFindings& findings);
 void checkInstances(OvZel::IZelMgr& document, CFindings& findings);
 void checkViews(OvZel::IZelMgr& document, CFindings& findings);
+void checkPanoramas(OvZel::IZelMgr& document, CFindings& findings);
+void checkAnimation(OvZel::IZelMgr& document, CFindings& findings);
 
 } // namespace tool

@@ -1,45 +1,16 @@
 #include "tools/checkParts.h"
 
 #include "tools/CFindings.h"
-#include "tools/CNames.h"
+#include "tools/CViewTargets.h"
 
-#include <zel/IZelMgr.h>
 #include <zel/IZelMgrEx.h>
-
-#include <set>
 
 namespace tool {
 
-namespace {
-
-// What the views of a document may name.
-struct CTargets {
-    explicit CTargets(OvZel::IZelMgr& document)
-        : grounds(*document.getGrounds()), lightsGroups(*document.getLightsGroups()),
-          layers(*document.getLayers())
-    {
-        forEach(*document.getHeliodons(), [&](OvZel::IZelHeliodon& each, std::int32_t) {
-            heliodons.insert(each.getBasicData()->getName());
-        });
-        forEach(*document.getEnvironments(), [&](OvZel::IZelEnvironment& each, std::int32_t) {
-            environments.add(each.getId(), each.getName());
-        });
-    }
-
-    std::set<std::string> heliodons;
-    CNames environments;
-    CNames grounds;
-    CNames lightsGroups;
-    CNames layers;
-};
-
-} // namespace
-
-static void checkView(OvZel::IZelViewBasic& view, const CTargets& targets, CFindings& findings)
+static void checkInfo(OvZel::IZelViewInfo& info, const char* viewName, const CViewTargets& targets,
+                      CFindings& findings)
 {
-    OvZel::IZelViewInfo& info = *view.getViewInfo();
-    const std::string name =
-        "view " + idText(*info.getBasicData()->getId()) + " \"" + view.getBasicData()->getName();
+    const std::string name = "view " + idText(*info.getBasicData()->getId()) + " \"" + viewName;
     const auto check = [&](const char* code, const char* what, const CNames& known,
                            const OvZel::CZelUUID& id) {
         if (known.lacks(id))
@@ -59,19 +30,38 @@ static void checkView(OvZel::IZelViewBasic& view, const CTargets& targets, CFind
 }
 
 template <class T>
-static void checkList(OvZel::TZelObjectMgr<T>& views, const CTargets& targets, CFindings& findings)
+static void checkList(OvZel::TZelObjectMgr<T>& views, const CViewTargets& targets,
+                      CFindings& findings)
 {
-    forEach(views, [&](T& view, std::int32_t) { checkView(view, targets, findings); });
+    forEach(views, [&](T& view, std::int32_t) {
+        checkInfo(*view.getViewInfo(), view.getBasicData()->getName(), targets, findings);
+    });
+}
+
+static void checkPaths(OvZel::IZelAnimation& animation, const CViewTargets& targets,
+                       CFindings& findings)
+{
+    forEach(*animation.getPaths(), [&](OvZel::IZelCameraPath& path, std::int32_t) {
+        checkInfo(*path.getViewInfo(), path.getName(), targets, findings);
+    });
 }
 
 void checkViews(OvZel::IZelMgr& document, CFindings& findings)
 {
-    const CTargets targets(document);
+    const CViewTargets targets(document);
     checkList(*document.getCameras(), targets, findings);
     checkList(*document.getParallelViews(), targets, findings);
     checkList(*document.getViewObjects(), targets, findings);
-    if (OvZel::IZelMgrEx* more = document.getMgrEx(OvZel::eVersionZel))
-        checkList(*more->getWorkingViews(), targets, findings);
+    checkList(*document.getPanoramas(), targets, findings);
+    forEach(*document.getScenarios(), [&](OvZel::IZelScenario& each, std::int32_t) {
+        checkList(*each.getSequences(), targets, findings);
+    });
+    OvZel::IZelMgrEx* more = document.getMgrEx(OvZel::eVersionZel);
+    if (!more)
+        return;
+    checkList(*more->getWorkingViews(), targets, findings);
+    forEach(*more->getAnimations(),
+            [&](OvZel::IZelAnimation& each, std::int32_t) { checkPaths(each, targets, findings); });
 }
 
 } // namespace tool

@@ -4,6 +4,7 @@
 
 #include <zel/CZelVersion.h>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -35,14 +36,32 @@ struct CRewrite {
 /// Load and save. With bare nothing but that; otherwise the preview picture is carried over, and
 /// what would lose data of a newer file or of a broken block is refused unless forced.
 void rewriteCommand(const CRewrite& request);
+struct CDiff {
+    std::string a;
+    std::string b;
+    double tolerance = 1e-6; ///< a share of the number that is compared
+    bool asJson = false;
+};
+/// One line for each thing that differs between two documents. eFindings when there is any.
+EExit diffCommand(const CDiff& request, CToolOutput& output);
+struct CImport {
+    std::string source;
+    std::string destination;
+    std::string out;
+    std::int32_t flags = 0; ///< as IZelMgr::doImportReference has them
+    bool isDryRun = false;  ///< tells what would be done, and writes nothing
+    bool asJson = false;
+};
+/// Merges the source into the destination, and tells what became of the objects of each category.
+void importCommand(const CImport& request, CToolOutput& output);
 struct CFromModel {
     std::string model;
     std::string out;
     std::string preview; ///< a PNG file, or empty for none
     bool isFlat = false; ///< one mesh, without components and instances
 };
-/// A model becomes a new document with its materials, its meshes as components, and an instance
-/// for each place of one.
+/// A model becomes a new document with its materials, its meshes as components, an instance for
+/// each place of one, and its cameras as views.
 void fromModelCommand(const CFromModel& request);
 /// The components of a document where its instances place them, and its own mesh, become an OBJ
 /// file, with the materials in an MTL file beside it.

@@ -1,6 +1,7 @@
 #include "tools/commands.h"
 
 #include "tools/CMeshSource.h"
+#include "tools/CModelCameras.h"
 #include "tools/CProgressBar.h"
 #include "tools/CSceneBuilder.h"
 #include "tools/CToolDocument.h"
@@ -31,24 +32,29 @@ private:
 };
 
 // The importer with the scene that it owns.
-class CImport {
+class CModelImport {
 public:
-    CImport(const std::string& model, bool isFlat)
+    explicit CModelImport(const std::string& model) : mModel(model), mProgress(*new CImportProgress)
     {
-        auto* const progress = new CImportProgress;
-        mImporter.SetProgressHandler(progress); // which owns it from here on
-        constexpr unsigned kInPlace = aiProcess_PreTransformVertices;
-        // In one mesh space every mesh goes where its node puts it.
-        const aiScene* scene = mImporter.ReadFile(model, isFlat ? kInPlace : 0U);
-        progress->clearBar();
-        checkInterrupt();
-        if (!scene)
-            throw CToolError(eNotReadable, model + ": " + mImporter.GetErrorString());
+        mImporter.SetProgressHandler(&mProgress); // which owns it from here on
+        check(mImporter.ReadFile(model, 0U));
     }
 
     const aiScene& scene() const { return *mImporter.GetScene(); }
+    /// In one mesh space every mesh goes where its node puts it.
+    void flatten() { check(mImporter.ApplyPostProcessing(aiProcess_PreTransformVertices)); }
 
 private:
+    void check(const aiScene* scene)
+    {
+        mProgress.clearBar();
+        checkInterrupt();
+        if (!scene)
+            throw CToolError(eNotReadable, mModel + ": " + mImporter.GetErrorString());
+    }
+
+    const std::string& mModel;
+    CImportProgress& mProgress;
     Assimp::Importer mImporter;
 };
 
@@ -69,13 +75,16 @@ static void setPreview(OvZel::IZelMgr& document, const std::string& png)
 }
 
 static void reportLosses(const std::string& model, const CMeshSource& source,
-                         const CSceneBuilder& builder)
+                         const CSceneBuilder& builder, const CModelCameras& cameras)
 {
     if (source.getNbLeftOut() > 0)
         complain(model + ": points and lines, left out: " + std::to_string(source.getNbLeftOut()));
     if (builder.getNbMapsLeftOut() > 0)
         complain(model + ": maps that are in the model itself, left out: " +
                  std::to_string(builder.getNbMapsLeftOut()));
+    if (cameras.getNbLeftOut() > 0)
+        complain(model + ": cameras of parallel views, left out: " +
+                 std::to_string(cameras.getNbLeftOut()));
 }
 
 void fromModelCommand(const CFromModel& request)
@@ -84,7 +93,10 @@ void fromModelCommand(const CFromModel& request)
     if (!request.preview.empty())
         setPreview(*document, request.preview);
     checkReadable(request.model);
-    const CImport import(request.model, request.isFlat);
+    CModelImport import(request.model);
+    CModelCameras cameras(import.scene()); // which loses its nodes when it gets flat
+    if (request.isFlat)
+        import.flatten();
     CMeshSource source(import.scene());
     CSceneBuilder builder(*document, import.scene(), source);
     builder.addMaterials();
@@ -92,7 +104,8 @@ void fromModelCommand(const CFromModel& request)
         builder.addWhole();
     else
         builder.addComponents();
-    reportLosses(request.model, source, builder);
+    cameras.addTo(*document);
+    reportLosses(request.model, source, builder, cameras);
     document.save(request.out, &source);
 }
 

@@ -1,10 +1,10 @@
 #include "tools/CToolOutput.h"
+#include "tools/commandLine.h"
 #include "tools/commands.h"
 #include "tools/interrupt.h"
 
 #include <CLI/CLI.hpp>
 
-#include <charconv>
 #include <cstdio>
 #include <functional>
 #include <optional>
@@ -21,6 +21,8 @@ struct CArguments {
     CRewrite rewrite;
     CFromModel fromModel;
     CShader shader;
+    CImport import;
+    CDiff diff;
     std::function<EExit()> command;
 };
 
@@ -82,44 +84,10 @@ static void addPreview(CLI::App& app, CArguments& arguments)
     });
 }
 
-// Three numbers with points between them, or nothing.
-static std::optional<OvZel::CZelVersion> versionOf(const std::string& text)
-{
-    OvZel::CZelVersion version;
-    const char* place = text.data();
-    const char* const end = place + text.size();
-    for (std::int32_t* part : {&version.major, &version.minor, &version.patch}) {
-        if (part != &version.major && (place == end || *place++ != '.'))
-            return std::nullopt;
-        const auto [behind, error] = std::from_chars(place, end, *part);
-        if (error != std::errc() || *part < 0 || *place == '-')
-            return std::nullopt;
-        place = behind;
-    }
-    return place == end ? std::optional(version) : std::nullopt;
-}
-
 static void addRewrite(CLI::App& app, CArguments& arguments)
 {
     CLI::App* rewrite = app.add_subcommand("rewrite", "Loads a document and saves it");
-    CRewrite& request = arguments.rewrite;
-    rewrite
-        ->add_option_function<std::string>(
-            "--min-version", [&](const std::string& text) { request.minVersion = versionOf(text); },
-            "The oldest library version that OUT claims to be readable by")
-        ->check([](const std::string& text) {
-            return versionOf(text) ? std::string() : text + " is no version such as 6.0.0";
-        })
-        ->type_name("A.B.C");
-    rewrite->add_flag("--bare", request.bare,
-                      "Load and save only: no check, and the preview picture of a newer file is "
-                      "lost");
-    rewrite->add_flag("--force", request.force, "Save also where data of IN is lost");
-    rewrite->add_option("IN", request.in, "The document to load")->required();
-    rewrite->add_option("OUT", request.out, "The document to save; may be IN")->required();
-    rewrite->footer("OUT is replaced as a whole or not at all. A file that a newer library wrote, "
-                    "or of which\na block can't be read, is refused unless forced.\n\n"
-                    "Example: zel rewrite --min-version 6.0.0 old.zel new.zel");
+    addRewriteOptions(*rewrite, arguments.rewrite);
     rewrite->callback([&] {
         arguments.command = [&] {
             rewriteCommand(arguments.rewrite);
@@ -210,6 +178,27 @@ static void addShader(CLI::App& app, CArguments& arguments)
     });
 }
 
+static void addImport(CLI::App& app, CArguments& arguments, CToolOutput& output)
+{
+    CLI::App* import = app.add_subcommand("import", "Merges a fresh export into a document");
+    addImportOptions(*import, arguments.import);
+    import->callback([&] {
+        arguments.command = [&] {
+            importCommand(arguments.import, output);
+    return eDone;
+};
+} // namespace tool
+);
+}
+
+static void addDiff(CLI::App& app, CArguments& arguments, CToolOutput& output)
+{
+    CLI::App* diff = app.add_subcommand("diff", "Tells what differs between two documents");
+    addDiffOptions(*diff, arguments.diff);
+    diff->callback(
+        [&] { arguments.command = [&] { return diffCommand(arguments.diff, output); }; });
+}
+
 // Help is output and goes where output goes; everything else that stops parsing is a usage error.
 static EExit stopParsing(const CLI::App& app, const CLI::ParseError& error, CToolOutput& output)
 {
@@ -225,9 +214,9 @@ static EExit run(int argc, char** argv, CToolOutput& output)
 {
     CLI::App app("Looks into, converts and rewrites ZEL scene documents.", "zel");
     app.footer(
-        "Exit codes: 0 done, 1 check has findings, 64 wrong usage, 65 not readable, 74 a file "
-        "can't be\nread or written, 130 and 143 stopped by Ctrl-C or SIGTERM; the output "
-        "file is then as it was.\n"
+        "Exit codes: 0 done, 1 check has findings or diff has differences, 64 wrong usage, "
+        "65 not\nreadable, 74 a file can't be read or written, 130 and 143 stopped by Ctrl-C "
+        "or SIGTERM; the\noutput file is then as it was.\n"
         "Output goes to standard output, messages to standard error.\n\n"
         "Example: zel info house.zel");
     app.require_subcommand(1);
@@ -240,6 +229,8 @@ static EExit run(int argc, char** argv, CToolOutput& output)
     addFromModel(app, arguments);
     addToModel(app, arguments);
     addShader(app, arguments);
+    addImport(app, arguments, output);
+    addDiff(app, arguments, output);
     try {
         app.parse(argc, argv);
     } catch (const CLI::RequiredError& error) {

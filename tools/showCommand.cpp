@@ -65,6 +65,8 @@ static ordered_json outline(OvZel::IZelMgr& document, const std::string& file)
     showDefinitions(document, object);
     showInstances(document, object);
     showViews(document, object);
+    showPanoramas(document, object);
+    showAnimation(document, object);
     return object;
 }
 

@@ -1,0 +1,20 @@
+#pragma once
+
+namespace CLI {
+class App;
+}
+
+namespace tool {
+
+struct CDiff;
+struct CImport;
+struct CRewrite;
+
+/// The options of the commands that have many of them. They fill the request.
+
+void addRewriteOptions(CLI::App& rewrite, CRewrite& request);
+void addDiffOptions(CLI::App& diff, CDiff& request);
+/// The flags of the request are complete once the callback of the command runs.
+void addImportOptions(CLI::App& import, CImport& request);
+
+} // namespace tool
