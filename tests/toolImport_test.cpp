@@ -67,16 +67,16 @@ protected:
         mSource = mFolder.put("export.zel", mPair.source.save());
         EXPECT_THAT(mPair.takeMessages(), IsEmpty());
     }
-    CRun import(std::vector<std::string> options, const std::string& out) const
+    CRun runImport(std::vector<std::string> options, const std::string& out) const
     {
         options.insert(options.begin(), {"import", "--reference", mSource, "--into", mDestination});
         if (!out.empty())
             options.insert(options.end(), {"--output", out});
         return runTool(std::move(options));
     }
-    CRun import(std::vector<std::string> options = {}) const
+    CRun runImport(std::vector<std::string> options = {}) const
     {
-        return import(std::move(options), mOut);
+        return runImport(std::move(options), mOut);
     }
     /// What differs from the destination, with the identifiers of the library's making as "ID".
     std::string changes() const
@@ -138,7 +138,7 @@ TEST_F(ToolImport, EachCategoryChangesWhatItPromises)
         {"0", "--flags=0xE", "", ""}, // bits without a category
     };
     for (const auto& [flags, option, table, changed] : cases)
-        for (const CRun& run : {import({"--flags", flags}), import({option})}) {
+        for (const CRun& run : {runImport({"--flags", flags}), runImport({option})}) {
             EXPECT_EQ(run.code, 0) << option;
             EXPECT_THAT(run.messages, IsEmpty());
             EXPECT_EQ(run.output, std::string(kHeader) + table);
@@ -148,7 +148,7 @@ TEST_F(ToolImport, EachCategoryChangesWhatItPromises)
 
 TEST_F(ToolImport, WithoutANamedCategoryAllAreImported)
 {
-    const CRun all = import();
+    const CRun all = runImport();
     const std::string changed = changes();
     EXPECT_THAT(changed, HasSubstr("added lights[Fresh]\n"));
     EXPECT_THAT(changed, HasSubstr("Sequence[Both]/Roll"));
@@ -156,17 +156,17 @@ TEST_F(ToolImport, WithoutANamedCategoryAllAreImported)
          {std::vector<std::string>{"--flags", "FF1"},
           {"--flags", "0x8F0", "--materials", "--view-objects", "--panoramas",
            "--parallel-views"}}) {
-        EXPECT_EQ(import(options).output, all.output);
+        EXPECT_EQ(runImport(options).output, all.output);
         EXPECT_EQ(changes(), changed);
     }
 }
 
 TEST_F(ToolImport, TheOutputMayBeTheDestination)
 {
-    ASSERT_EQ(import().code, 0);
+    ASSERT_EQ(runImport().code, 0);
     const std::string apart = mOut;
     const std::string before = mFolder.put("before.zel", contents(mDestination));
-    ASSERT_EQ(import({}, mDestination).code, 0);
+    ASSERT_EQ(runImport({}, mDestination).code, 0);
     mOut = mDestination;
     mDestination = before;
     const std::string changed = changes();
@@ -177,18 +177,18 @@ TEST_F(ToolImport, TheOutputMayBeTheDestination)
 
 TEST_F(ToolImport, ADryRunTellsTheSameAndWritesNothing)
 {
-    const CRun run = import();
+    const CRun run = runImport();
     const std::string out = mFolder.put("out.zel", "as it was");
     const std::string before = contents(mDestination);
     for (const std::string& target : {out, mDestination, std::string()}) {
-        const CRun dry = import({"--dry-run"}, target);
+        const CRun dry = runImport({"--dry-run"}, target);
         EXPECT_EQ(dry.code, 0);
         EXPECT_EQ(dry.output, run.output);
     }
     EXPECT_EQ(contents(out), "as it was");
     EXPECT_EQ(contents(mDestination), before);
     EXPECT_THAT(mFolder.names(), ElementsAre("export.zel", "house.zel", "out.zel"));
-    const json told = json::parse(import({"--dry-run", "--json", "--lights"}, "").output);
+    const json told = json::parse(runImport({"--dry-run", "--json", "--lights"}, "").output);
     EXPECT_EQ(told["dryRun"], true);
     EXPECT_EQ(told["into"], mDestination);
     EXPECT_EQ(told["categories"], json::parse(R"([{"category": "lights", "added": 1,
@@ -202,11 +202,12 @@ TEST_F(ToolImport, TellsNamesOfSeveralObjects)
     add(mPair.destination->getLights(), "Tuned"); // no partner for either
     add(mPair.destination->getLayers(), "Trees", idOfNumber(81));
     save();
-    EXPECT_EQ(categories(import({"--lights", "--json"})), json::parse(R"([{"category": "lights",
+    EXPECT_EQ(categories(runImport({"--lights", "--json"})), json::parse(R"([{"category": "lights",
         "added": 1, "overwritten": 1, "kept": 3, "ambiguous": ["Both", "Fresh"]}])"));
-    EXPECT_EQ(categories(import({"--objects", "--json"}))[0], json::parse(R"({"category": "layers",
+    EXPECT_EQ(categories(runImport({"--objects", "--json"}))[0],
+              json::parse(R"({"category": "layers",
         "added": 0, "overwritten": 0, "kept": 2, "ambiguous": ["Trees"]})"));
-    EXPECT_THAT(import({"--lights"}).output, HasSubstr("3  \"Both\", \"Fresh\"\n"));
+    EXPECT_THAT(runImport({"--lights"}).output, HasSubstr("3  \"Both\", \"Fresh\"\n"));
 }
 
 TEST_F(ToolImport, TellsWhatCameAlong)
@@ -221,7 +222,7 @@ TEST_F(ToolImport, TellsWhatCameAlong)
         addId(info.getLightsGroups(), idOfNumber(group));
     info.setEnvironment(add(mPair.source->getEnvironments()).getId());
     save();
-    EXPECT_EQ(import({"--cameras"}).output,
+    EXPECT_EQ(runImport({"--cameras"}).output,
               std::string(kHeader) + "cameras                 1            1        1\n"
                                      "lightsGroups            1            1        0\n"
                                      "environments            1            0        0\n"
@@ -242,7 +243,7 @@ TEST_F(ToolImport, MaterialsOfWhatTheImportBroughtAreNotCounted)
     }
     save();
     // Of the destination's four materials that of the shed in both and one of the component.
-    EXPECT_EQ(categories(import({"--materials", "--objects", "--json"}))[3],
+    EXPECT_EQ(categories(runImport({"--materials", "--objects", "--json"}))[3],
               json::parse(R"({"category": "materials", "added": 0, "overwritten": 2, "kept": 2,
                               "ambiguous": []})"));
 }
@@ -251,20 +252,20 @@ TEST_F(ToolImport, WarnsThatInstancesWithoutLayersAreAddedAgain)
 {
     mPair.source->getLayers()->removeAllObjects();
     save();
-    const CRun run = import({"--objects"});
+    const CRun run = runImport({"--objects"});
     EXPECT_EQ(run.messages,
               "zel: " + mSource + ": has no layers, so each import adds its instances again\n");
     EXPECT_THAT(run.output, HasSubstr("objectInstances         2            0        2\n"));
     mDestination = mOut;
-    EXPECT_THAT(import({"--objects"}).output,
+    EXPECT_THAT(runImport({"--objects"}).output,
                 HasSubstr("objectInstances         2            0        4\n"));
-    EXPECT_THAT(import({"--lights"}).messages, IsEmpty());
+    EXPECT_THAT(runImport({"--lights"}).messages, IsEmpty());
 }
 
 TEST_F(ToolImport, KeepsThePreview)
 {
     mDestination = sample("house.zel");
-    ASSERT_EQ(import().code, 0);
+    ASSERT_EQ(runImport().code, 0);
     EXPECT_EQ(json::parse(runTool({"info", "--json", mOut}).output)["preview"],
               json::parse(R"({"width": 96, "height": 64})"));
 }

@@ -104,6 +104,8 @@ CZelUUID CSceneBuilder::addDefinition(unsigned mesh, const std::string& name)
 {
     OvZel::IZelZelObjectDefinition& definition = added(mDocument.getDefinitions());
     definition.setClass("ModelObject");
+    // Level 0 is an export's one top-level component, whose instances no import takes over.
+    definition.setGeometryLevel(1);
     definition.getBasicData()->setName(name.c_str());
     const unsigned material = mScene.mMeshes[mesh]->mMaterialIndex;
     if (material < mScene.mNumMaterials) {

@@ -102,61 +102,57 @@ static std::optional<std::int32_t> flagsOf(const std::string& text)
     return static_cast<std::int32_t>(flags);
 }
 
-static void addCategories(CLI::App& import, CImport& request)
+static void addCategories(CLI::App& command, CImport& request)
 {
-    import
+    command
         .add_option_function<std::string>(
-            "--flags",
-            [&request](const std::string& text) { request.flags |= *flagsOf(text);
-},
+            "--flags", [&request](const std::string& text) { request.flags |= *flagsOf(text); },
             "The categories as a sum of bits, 0xFF1 for all of them")
         ->check([](const std::string& text) {
-    return flagsOf(text) ? std::string() : text + " is no hexadecimal number";
+            return flagsOf(text) ? std::string() : text + " is no hexadecimal number";
         })
         ->type_name("HEX");
-for (const auto& category : kCategories)
-        import.add_flag_callback(
-            category.option, [&request, &category] { request.flags |= category.flag;
-} // namespace tool
-,
+    for (const auto& category : kCategories)
+        command.add_flag_callback(
+            category.option, [&request, &category] { request.flags |= category.flag; },
             category.help);
 }
 
 // Without any option that names categories all are meant.
-static void takeAllUnlessNamed(const CLI::App& import, CImport& request)
+static void takeAllUnlessNamed(const CLI::App& command, CImport& request)
 {
-    bool isNamed = import.count("--flags") > 0;
+    bool isNamed = command.count("--flags") > 0;
     for (const auto& category : kCategories)
-        isNamed = isNamed || import.count(category.option) > 0;
+        isNamed = isNamed || command.count(category.option) > 0;
     if (!isNamed)
         request.flags = allCategories();
 }
 
-void addImportOptions(CLI::App& import, CImport& request)
+void addImportOptions(CLI::App& command, CImport& request)
 {
-    import.add_option("--reference", request.source, "The fresh export")
+    command.add_option("--reference", request.source, "The fresh export")
         ->required()
         ->type_name("SRC");
-    import.add_option("--into", request.destination, "The document to import into")
+    command.add_option("--into", request.destination, "The document to import into")
         ->required()
         ->type_name("DST");
-    import.add_option("--output", request.out, "The document to save; may be DST")
+    command.add_option("--output", request.out, "The document to save; may be DST")
         ->type_name("OUT");
-    import.add_flag("--dry-run", request.isDryRun, "Tell what would be done, and write nothing");
-    import.add_flag("--json", request.asJson, "One JSON object");
-    addCategories(import, request);
-    import.parse_complete_callback([&import, &request] {
+    command.add_flag("--dry-run", request.isDryRun, "Tell what would be done, and write nothing");
+    command.add_flag("--json", request.asJson, "One JSON object");
+    addCategories(command, request);
+    command.parse_complete_callback([&command, &request] {
         if (request.out.empty() && !request.isDryRun)
             throw CLI::RequiredError("--output");
-    takeAllUnlessNamed(import, request);
-});
-import.footer(
-    "Of the categories those that are named are imported, or all. An object whose name DST "
-    "has is\noverwritten there, any other one of SRC is added, and nothing is removed. "
-    "Instances are paired\nby identifier and layer. The table tells for each category how many "
-    "were added, overwritten\nand kept, and the names that several objects have: only the "
-    "first of DST is paired.\n\n"
-    "Example: zel import --reference export.zel --into house.zel --output house.zel");
+        takeAllUnlessNamed(command, request);
+    });
+    command.footer(
+        "Of the categories those that are named are imported, or all. An object whose name DST "
+        "has is\noverwritten there, any other one of SRC is added, and nothing is removed. "
+        "Instances are paired\nby identifier and layer. The table tells for each category how many "
+        "were added, overwritten\nand kept, and the names that several objects have: only the "
+        "first of DST is paired.\n\n"
+        "Example: zel import --reference export.zel --into house.zel --output house.zel");
 }
 
 } // namespace tool

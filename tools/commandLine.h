@@ -15,6 +15,6 @@ struct CRewrite;
 void addRewriteOptions(CLI::App& rewrite, CRewrite& request);
 void addDiffOptions(CLI::App& diff, CDiff& request);
 /// The flags of the request are complete once the callback of the command runs.
-void addImportOptions(CLI::App& import, CImport& request);
+void addImportOptions(CLI::App& command, CImport& request);
 
 } // namespace tool

@@ -94,7 +94,8 @@ static void importStage(IZelMgr& destination, IZelMgr& source, std::int32_t flag
 
 // The instances come first, and in a stage of their own: what the other categories find depends on
 // them.
-static std::vector<CImportCount> import(IZelMgr& destination, IZelMgr& source, std::int32_t flags)
+static std::vector<CImportCount> importAll(IZelMgr& destination, IZelMgr& source,
+                                           std::int32_t flags)
 {
     std::vector<CImportCount> counts;
     const CBroughtAlong broughtAlong(destination, flags);
@@ -174,7 +175,7 @@ void importCommand(const CImport& request, CToolOutput& output)
                 "zel rewrite --force makes a file to import into");
     warnOfLayers(request, *source);
     switchMatrixOff(*destination);
-    const std::vector<CImportCount> counts = import(*destination, *source, request.flags);
+    const std::vector<CImportCount> counts = importAll(*destination, *source, request.flags);
     if (!request.isDryRun)
         destination.save(request.out);
     output.write(request.asJson ? jsonOf(request, counts) : tableOf(counts));

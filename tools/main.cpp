@@ -180,15 +180,14 @@ static void addShader(CLI::App& app, CArguments& arguments)
 
 static void addImport(CLI::App& app, CArguments& arguments, CToolOutput& output)
 {
-    CLI::App* import = app.add_subcommand("import", "Merges a fresh export into a document");
-    addImportOptions(*import, arguments.import);
-    import->callback([&] {
+    CLI::App* command = app.add_subcommand("import", "Merges a fresh export into a document");
+    addImportOptions(*command, arguments.import);
+    command->callback([&] {
         arguments.command = [&] {
             importCommand(arguments.import, output);
-    return eDone;
-};
-} // namespace tool
-);
+            return eDone;
+        };
+    });
 }
 
 static void addDiff(CLI::App& app, CArguments& arguments, CToolOutput& output)
