@@ -2,8 +2,9 @@
 
 #include "core/TObjectMgrBase.h"
 #include "core/elementId.h"
+#include "core/largePages.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <type_traits>
@@ -22,7 +23,7 @@ public:
         if (capacity > 0)
             TSimpleMgr::reserve(capacity);
     }
-    ~TSimpleMgr() override { std::free(mRecords); }
+    ~TSimpleMgr() override { freeBuffer(mRecords, bufferSize()); }
 
     const CZelUUID* getObjectIID() const override { return elementId<T>(); }
     std::int32_t getNbObjects() const override { return mCount; }
@@ -55,6 +56,7 @@ public:
 
 private:
     bool grow();
+    std::size_t bufferSize() const { return static_cast<std::size_t>(mCapacity) * sizeof(T); }
 
     std::int32_t mCount = 0;
     std::int32_t mCapacity = 0;
@@ -100,9 +102,9 @@ bool TSimpleMgr<T, Base>::reserve(std::int32_t count)
     if (count == mCapacity)
         return true;
     const auto size = static_cast<std::size_t>(count) * sizeof(T);
-    void* records = count > 0 ? std::realloc(static_cast<void*>(mRecords), size) : nullptr;
+    void* records = count > 0 ? resizeBuffer(mRecords, bufferSize(), size) : nullptr;
     if (records == nullptr)
-        std::free(mRecords);
+        freeBuffer(mRecords, bufferSize());
     mRecords = static_cast<T*>(records);
     mCapacity = count;
     if (records != nullptr || count == 0)
@@ -146,7 +148,7 @@ void TSimpleMgr<T, Base>::releaseSpareRoom() noexcept
     if (mCount == mCapacity)
         return;
     const auto size = static_cast<std::size_t>(mCount > 0 ? mCount : 1) * sizeof(T);
-    if (void* records = std::realloc(static_cast<void*>(mRecords), size)) {
+    if (void* records = resizeBuffer(mRecords, bufferSize(), size)) {
         mRecords = static_cast<T*>(records);
         mCapacity = mCount > 0 ? mCount : 1;
     }
@@ -173,8 +175,9 @@ bool TSimpleMgr<T, Base>::grow()
     constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
     if (mCapacity == kMost)
         return false;
-    const std::int32_t wanted = mCapacity == 0 ? 1 : mCapacity;
-    return this->reserve(wanted > kMost / 2 ? kMost : wanted * 2);
+    const std::size_t wanted =
+        nextBufferSize(mCapacity == 0 ? sizeof(T) : bufferSize()) / sizeof(T);
+    return this->reserve(static_cast<std::int32_t>(std::min<std::size_t>(wanted, kMost)));
 }
 
 } // namespace OvZel

@@ -80,6 +80,12 @@ bool scanInteger(Source& in, std::int32_t& result)
     return true;
 }
 
+/// True for a whole integer within the window.
+bool scanInteger(CWindow& in, const char* end, std::int32_t& result)
+{
+    return scanInteger(in, result) && in.position <= end;
+}
+
 /// What each digit adds at each place behind the point: digit x weight, the weight of a place being
 /// 0.1 times that of the one before. Adding these products in order is what defines the value; a
 /// correctly rounded conversion gives other doubles for two numbers in five.
@@ -144,6 +150,44 @@ bool scanDouble(Source& in, double& value, bool& negative, int& c)
     return true;
 }
 
+/// True for a whole number within the window that is written in digits.
+template <class Real>
+bool scanReal(CWindow& in, const char* end, Real& result)
+{
+    double value = 0.0;
+    bool negative = false;
+    int c = 0;
+    if (!scanDouble(in, value, negative, c) || in.position > end)
+        return false;
+    result = static_cast<Real>(negative ? -value : value);
+    return true;
+}
+
+/// True for three of these.
+bool scanPoint(CWindow& in, const char* end, double (&xyz)[3])
+{
+    return scanReal(in, end, xyz[0]) && scanReal(in, end, xyz[1]) && scanReal(in, end, xyz[2]);
+}
+
+/// True for a whole vertex within the window.
+bool scanVertex(CWindow& in, const char* end, CZelVertex& vertex)
+{
+    vertex = {};
+    int c = nextSolid(in);
+    if (c == 'I') {
+        vertex.flags |= CZelVertex::kFlagI;
+        c = nextSolid(in);
+    }
+    if (c == 'M') {
+        vertex.flags |= CZelVertex::kFlagM;
+        if (!scanReal(in, end, vertex.u) || !scanReal(in, end, vertex.v))
+            return false;
+    } else {
+        --in.position;
+    }
+    return scanInteger(in, end, vertex.pointIndex);
+}
+
 } // namespace
 
 std::int32_t CFastReader::readInteger()
@@ -182,8 +226,28 @@ double CFastReader::readWord(int first)
     return kBeyond;
 }
 
+bool CFastReader::readShort(CShortPolygon& polygon)
+{
+    CWindow in{mIn.Begin()};
+    const char* const end = mIn.End();
+    const int kind = nextSolid(in);
+    polygon.isSmooth = kind == 'o';
+    if ((kind != 'p' && kind != 'o') || !scanInteger(in, end, polygon.material) ||
+        !scanInteger(in, end, polygon.nbVertices) || polygon.nbVertices < 0 ||
+        polygon.nbVertices > CShortPolygon::kMostVertices)
+        return false;
+    for (std::int32_t i = 0; i < polygon.nbVertices; ++i)
+        if (!scanVertex(in, end, polygon.vertices[i]))
+            return false;
+    mIn.Consume(static_cast<std::size_t>(in.position - mIn.Begin()));
+    return true;
+}
+
 void CFastReader::readPoint(double (&xyz)[3])
 {
+    CWindow in{mIn.Begin()};
+    if (scanPoint(in, mIn.End(), xyz))
+        return mIn.Consume(static_cast<std::size_t>(in.position - mIn.Begin()));
     for (double& coordinate : xyz)
         coordinate = readDouble();
 }

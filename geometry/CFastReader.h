@@ -37,6 +37,24 @@ public:
     /// Fills an empty polygon.
     void readPolygon(CPolygon& polygon);
 
+    /// A polygon without holes and with few vertices.
+    struct CShortPolygon {
+        static constexpr std::int32_t kMostVertices = 64;
+
+        std::span<const CZelVertex> loop() const
+        {
+            return {vertices, static_cast<std::size_t>(nbVertices)};
+        }
+
+        std::int32_t material;
+        bool isSmooth;
+        std::int32_t nbVertices;
+        CZelVertex vertices[kMostVertices];
+    };
+    /// Quicker than readPolygon. False, with nothing read, for a polygon that is none of these,
+    /// that isn't whole in the reader's window, or that is broken.
+    bool readShort(CShortPolygon& polygon);
+
 private:
     /// Steps up to there, unless it lies behind the window.
     bool consume(const char* position)

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "geometry/decimals.h"
+
 #include <zel/CZelPoint.h>
 #include <zel/xml/XIXMLWriteStream.h>
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string_view>
 
@@ -17,35 +21,85 @@ namespace OvZel {
 /// "CFastWriter::write - Can't write all data".
 class CFastWriter {
 public:
+    /// Where the next text goes, and where it ends. Loops over many numbers hold it in a register
+    /// and ask for room once for several of them.
+    struct CPen {
+        void text(std::string_view text)
+        {
+            std::memcpy(out, text.data(), text.size());
+            out += text.size();
+        }
+        /// Decimal and a blank, as the next one.
+        void integer(std::int32_t value)
+        {
+            out = putInteger(out, value);
+            *out++ = ' ';
+        }
+        /// Up to six decimals and a blank. What lies beyond 1e30 is written as 1e30, NaN as -1e30.
+        void real(double value)
+        {
+            out = putReal(out, value);
+            *out++ = ' ';
+        }
+        void point(const CZelPoint& point)
+        {
+            real(point.x);
+            real(point.y);
+            real(point.z);
+        }
+
+        char* out;
+    };
+    /// No number is longer: 1e30 has 31 digits, sign, point, six decimals and a blank.
+    static constexpr std::size_t kLongest = 48;
+
     explicit CFastWriter(OrvaneXML::XIXMLWriteStream& stream);
 
-    void writeText(std::string_view text);
-    /// Decimal and a blank, as the next one.
-    void writeUnsigned(std::uint32_t value);
-    void writeInteger(std::int32_t value);
-    /// Up to six decimals and a blank. What lies beyond 1e30 is written as 1e30, NaN as -1e30.
-    void writeDouble(double value);
-    void writePoint(const CZelPoint& point);
+    /// A pen with room for so many bytes, at most 64 KiB; nothing else is written until done.
+    CPen pen(std::size_t size)
+    {
+        if (kSize - mUsed < size)
+            flush();
+        return {mBuffer.get() + mUsed};
+    }
+    void done(const CPen& pen) { mUsed = static_cast<std::size_t>(pen.out - mBuffer.get()); }
+
     void flush();
 
 private:
     static constexpr std::size_t kSize = 64 * 1024;
-    /// No number is longer: 1e30 has 31 digits, sign, point, six decimals and a blank.
-    static constexpr std::size_t kLongest = 48;
 
-    /// Place for that many bytes, at most kLongest.
-    char* room(std::size_t size = kLongest)
-    {
-        if (kSize - mUsed < size)
-            flush();
-        return mBuffer.get() + mUsed;
-    }
-    void usedUpTo(const char* end) { mUsed = static_cast<std::size_t>(end - mBuffer.get()); }
-    void put(const char* bytes, std::size_t size);
+    static char* putReal(char* out, double value);
+    static char* putOrdinary(char* out, double value);
+    static char* putLarge(char* out, double value);
 
     OrvaneXML::XIXMLWriteStream& mStream;
     std::unique_ptr<char[]> mBuffer;
     std::size_t mUsed = 0;
 };
+
+inline char* CFastWriter::putReal(char* out, double value)
+{
+    // Up to here the integer part fits 32 bits; NaN is not below.
+    constexpr double kLargestOrdinary = 2147483647.0;
+    if (!(std::fabs(value) <= kLargestOrdinary))
+        return putLarge(out, value);
+    if (value != 0.0)
+        return putOrdinary(out, value);
+    std::memcpy(out, "0.0", 3);
+    return out + 3;
+}
+
+/// Adds half a unit of the sixth decimal and cuts. The texts depend on the order of the operations.
+inline char* CFastWriter::putOrdinary(char* out, double value)
+{
+    const double rounded = std::fabs(value) + 5e-7;
+    if (value < 0.0)
+        *out++ = '-';
+    const auto whole = static_cast<std::uint32_t>(rounded);
+    out = putUnsigned(out, whole);
+    *out++ = '.';
+    return putDecimals(out, rounded - whole);
+}
 
 } // namespace OvZel

@@ -23,22 +23,31 @@ bool CFlatPolygons::fits(const CPolygonView& polygon)
 
 CPolygonRecord CFlatPolygons::pack(const CPolygonView& polygon)
 {
+    const std::int32_t loops = polygon.nbLoops();
+    if (loops == 1)
+        return pack(polygon.getMaterial(), polygon.isSmooth(), polygon.loop(0));
     CPolygonRecord record;
     record.material = polygon.getMaterial();
     record.smooth = polygon.isSmooth() ? 1U : 0U;
-    const std::int32_t loops = polygon.nbLoops();
-    if (loops == 1) {
-        const CLoopRecord loop = append(polygon.loop(0));
-        record.place = loop.place;
-        record.count = loop.count & CPolygonRecord::kMostCount;
-    } else {
-        record.place = mLoops.size();
-        record.count = static_cast<std::uint32_t>(loops) & CPolygonRecord::kMostCount;
-        record.kind = CPolygonRecord::eLoops;
-        for (std::int32_t i = 0; i < loops; ++i)
-            mLoops.push_back(append(polygon.loop(i)));
-    }
+    record.place = mLoops.size();
+    record.count = static_cast<std::uint32_t>(loops) & CPolygonRecord::kMostCount;
+    record.kind = CPolygonRecord::eLoops;
+    for (std::int32_t i = 0; i < loops; ++i)
+        mLoops.push_back(append(polygon.loop(i)));
     mSize += weight(record);
+    return record;
+}
+
+CPolygonRecord CFlatPolygons::pack(std::int32_t material, bool isSmooth,
+                                   std::span<const CZelVertex> loop)
+{
+    const CLoopRecord packed = append(loop);
+    CPolygonRecord record;
+    record.material = material;
+    record.smooth = isSmooth ? 1U : 0U;
+    record.place = packed.place;
+    record.count = packed.count & CPolygonRecord::kMostCount;
+    mSize += 1 + loop.size();
     return record;
 }
 
@@ -47,10 +56,12 @@ void CFlatPolygons::drop(const CPolygonRecord& record)
     mDead += weight(record);
 }
 
+/// Of later pieces nobody has touched what is not used, so it costs next to nothing.
 void CFlatPolygons::releaseSpareRoom()
 {
-    if (!mBlocks.empty())
-        mBlocks.back().shrink_to_fit();
+    if (mBlocks.size() == 1 && mUsed < mRoom && mRoom <= kBlock)
+        resizeFirst(mUsed);
+    mPieces.shrink_to_fit();
     mBlocks.shrink_to_fit();
     mLoops.shrink_to_fit();
 }
@@ -59,31 +70,52 @@ CFlatPolygons::CLoopRecord CFlatPolygons::append(std::span<const CZelVertex> loo
 {
     if (loop.empty())
         return {0, 0};
-    CBlock& block = blockFor(loop.size());
-    const std::size_t place = (mBlocks.size() - 1) << 16 | block.size();
-    block.insert(block.end(), loop.begin(), loop.end());
+    makeRoom(loop.size());
+    const std::size_t place = (mBlocks.size() - 1) << 16 | mUsed;
+    std::copy(loop.begin(), loop.end(), mBlocks.back() + mUsed);
+    mUsed += loop.size();
     return {static_cast<std::uint32_t>(place), static_cast<std::uint32_t>(loop.size())};
 }
 
-CFlatPolygons::CBlock& CFlatPolygons::blockFor(std::size_t count)
+void CFlatPolygons::makeMoreRoom(std::size_t count)
 {
-    const bool isFull =
-        mBlocks.empty() || (!mBlocks.back().empty() && mBlocks.back().size() + count > kBlock);
-    if (isFull) {
-        if (mBlocks.size() == kMostBlocks)
-            throw std::length_error("too many vertices");
-        // Large loops can leave much of a block unused.
-        if (!mBlocks.empty() && mBlocks.back().size() < kBlock / 8 * 7)
-            mBlocks.back().shrink_to_fit();
-        mBlocks.emplace_back();
+    if (mBlocks.size() <= 1 && mUsed + count <= kBlock)
+        return resizeFirst(std::clamp(mRoom * 2, std::max(kFirstRoom, mUsed + count), kBlock));
+    if (count > kBlock)
+        return addBlock(newPiece(count), count);
+    if (mBlocksLeft == 0) {
+        const std::size_t blocks = mBlocks.size() < kBlocksInPiece ? 1 : kBlocksInPiece;
+        mNextBlock = newPiece(blocks * kBlock);
+        mBlocksLeft = blocks;
     }
-    CBlock& block = mBlocks.back();
-    const std::size_t wanted = block.size() + count;
-    if (wanted > block.capacity()) {
-        const std::size_t doubled = std::max(kFirstRoom, block.capacity() * 2);
-        block.reserve(std::max(wanted, std::min(doubled, kBlock)));
-    }
-    return block;
+    addBlock(mNextBlock, kBlock);
+    mNextBlock += kBlock;
+    --mBlocksLeft;
+}
+
+void CFlatPolygons::resizeFirst(std::size_t room)
+{
+    if (mBlocks.empty())
+        return addBlock(newPiece(room), room);
+    TLargeArray<CZelVertex> piece(room);
+    std::copy_n(mBlocks.front(), mUsed, piece.data());
+    mBlocks.front() = piece.data();
+    mPieces.front() = std::move(piece);
+    mRoom = room;
+}
+
+CZelVertex* CFlatPolygons::newPiece(std::size_t room)
+{
+    return mPieces.emplace_back(room).data();
+}
+
+void CFlatPolygons::addBlock(CZelVertex* start, std::size_t room)
+{
+    if (mBlocks.size() == kMostBlocks)
+        throw std::length_error("too many vertices");
+    mBlocks.push_back(start);
+    mUsed = 0;
+    mRoom = room;
 }
 
 std::size_t CFlatPolygons::weight(const CPolygonRecord& record) const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "geometry/TLargeArray.h"
+
 #include <zel/CZelVertex.h>
 
 #include <cstddef>
@@ -33,16 +35,20 @@ static_assert(sizeof(CPolygonRecord) == 16, "a mesh has a million of these");
 /// The loops of polygons that nobody has looked at, packed.
 ///
 /// Vertices lie in blocks that a loop never leaves; a larger one has a block of its own. A place is
-/// the number of the block in the upper half and the vertex within the block in the lower. Vertices
-/// of a removed polygon stay until the whole is packed anew.
+/// the number of the block in the upper half and the vertex within the block in the lower. Memory
+/// comes in pieces: the first is of one block and grows up to it, and once there are many, a piece
+/// has several. Vertices of a removed polygon stay until the whole is packed anew.
 class CFlatPolygons {
 public:
     static constexpr std::size_t kBlock = 65'536;
+    static constexpr std::size_t kBlocksInPiece = 16;
 
     /// False for a polygon whose counts a record cannot hold.
     static bool fits(const CPolygonView& polygon);
     /// Adds the loops; raises when memory runs out.
     CPolygonRecord pack(const CPolygonView& polygon);
+    /// The same for a polygon without holes.
+    CPolygonRecord pack(std::int32_t material, bool isSmooth, std::span<const CZelVertex> loop);
     /// The polygon of this record, which holds no object, goes.
     void drop(const CPolygonRecord& record);
     /// More than half of what lies here belongs to no polygon.
@@ -66,20 +72,34 @@ private:
         std::uint32_t place;
         std::uint32_t count;
     };
-    using CBlock = std::vector<CZelVertex>;
-
     std::span<const CZelVertex> vertices(CLoopRecord loop) const
     {
         if (loop.count == 0)
             return {};
-        return {mBlocks[loop.place >> 16].data() + (loop.place & 0xFFFFU), loop.count};
+        return {mBlocks[loop.place >> 16] + (loop.place & 0xFFFFU), loop.count};
     }
     CLoopRecord append(std::span<const CZelVertex> loop);
-    CBlock& blockFor(std::size_t count);
+    /// For so many vertices in the last block.
+    void makeRoom(std::size_t count)
+    {
+        if (mRoom - mUsed < count)
+            makeMoreRoom(count);
+    }
+    void makeMoreRoom(std::size_t count);
+    void resizeFirst(std::size_t room);
+    CZelVertex* newPiece(std::size_t room);
+    void addBlock(CZelVertex* start, std::size_t room);
     /// What a polygon takes up here, in vertices and loops.
     std::size_t weight(const CPolygonRecord& record) const;
 
-    std::vector<CBlock> mBlocks;
+    std::vector<TLargeArray<CZelVertex>> mPieces;
+    std::vector<CZelVertex*> mBlocks;
+    // Of the last block.
+    std::size_t mUsed = 0;
+    std::size_t mRoom = 0;
+    // Of the last piece.
+    CZelVertex* mNextBlock = nullptr;
+    std::size_t mBlocksLeft = 0;
     std::vector<CLoopRecord> mLoops;
     std::size_t mSize = 0;
     std::size_t mDead = 0;

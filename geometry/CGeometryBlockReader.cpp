@@ -67,10 +67,15 @@ void CGeometryBlockReader::readPolygons()
     OvThrow::IfNULL(scratch);
     CPacer pacer(mHost, CPacer::kSpan, count);
     std::int32_t i = 0;
+    CFastReader::CShortPolygon polygon;
     for (; i < count; ++i) {
-        mIn.readPolygon(*scratch);
-        checkStored(own != nullptr ? own->append(*scratch) : mStorage.setPolygon(scratch, i));
-        scratch->clear();
+        if (own != nullptr && mIn.readShort(polygon)) {
+            checkStored(own->append(polygon.material, polygon.isSmooth, polygon.loop()));
+        } else {
+            mIn.readPolygon(*scratch);
+            checkStored(own != nullptr ? own->append(*scratch) : mStorage.setPolygon(scratch, i));
+            scratch->clear();
+        }
         pacer.step(i);
     }
     pacer.step(i);

@@ -26,8 +26,10 @@ void writePoints(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std::
                 throw std::runtime_error("CPointsProvider::Write2 - External storage cancel IO");
             point = &buffer;
         }
-        out.writeText("\n");
-        out.writePoint(*point);
+        CFastWriter::CPen pen = out.pen(1 + 3 * CFastWriter::kLongest);
+        pen.text("\n");
+        pen.point(*point);
+        out.done(pen);
         pacer.step(i);
     }
     pacer.step(i);
@@ -49,10 +51,14 @@ bool CPointsProvider::Write2(OrvaneXML::XIXMLWriteStream* stream, OrvaneXML::XIX
     if (count < 0)
         throw std::runtime_error("CPointsProvider::Write2 - External storage return -1");
     CFastWriter out(*stream);
-    out.writeText("\n");
-    out.writeUnsigned(static_cast<std::uint32_t>(count));
+    CFastWriter::CPen pen = out.pen(CFastWriter::kLongest);
+    pen.text("\n");
+    pen.integer(count);
+    out.done(pen);
     writePoints(*host(), *storage, count, out);
-    out.writeText("\n");
+    pen = out.pen(1);
+    pen.text("\n");
+    out.done(pen);
     out.flush();
     return true;
 }

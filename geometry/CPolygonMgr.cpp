@@ -60,7 +60,7 @@ void CPolygonMgr::moveObject(std::int32_t from, std::int32_t to)
 
 void CPolygonMgr::removeAllObjects()
 {
-    const std::vector<CPolygonRecord> records = std::exchange(mRecords, {});
+    const CRecords records = std::exchange(mRecords, {});
     mFlat = {};
     for (const CPolygonRecord& record : records) {
         if (record.kind == CPolygonRecord::eObject)
@@ -114,6 +114,17 @@ bool CPolygonMgr::appendFlat(const CPolygonView& polygon)
     }
 }
 
+bool CPolygonMgr::appendFlat(std::int32_t material, bool isSmooth, std::span<const CZelVertex> loop)
+{
+    try {
+        mRecords.push_back(mFlat.pack(material, isSmooth, loop));
+        return true;
+    } catch (const std::exception&) {
+        warning(kNoMemory);
+        return false;
+    }
+}
+
 void CPolygonMgr::releaseSpareRoom() noexcept
 {
     mRecords.shrink_to_fit();
@@ -126,12 +137,6 @@ CPolygon* CPolygonMgr::at(std::int32_t index)
     if (record.kind == CPolygonRecord::eObject)
         return record.object;
     return makeObject(index);
-}
-
-const CPolygon* CPolygonMgr::objectAt(std::int32_t index) const
-{
-    const CPolygonRecord& record = recordAt(index);
-    return record.kind == CPolygonRecord::eObject ? record.object : nullptr;
 }
 
 CPolygonMgr::CHeldPolygon CPolygonMgr::make()
@@ -179,7 +184,7 @@ void CPolygonMgr::packAnew() noexcept
         return;
     try {
         CFlatPolygons flat;
-        std::vector<CPolygonRecord> records(mRecords);
+        CRecords records(mRecords);
         for (std::int32_t i = 0; i < size(); ++i) {
             if (recordAt(i).kind != CPolygonRecord::eObject)
                 records[static_cast<std::size_t>(i)] = flat.pack(CPolygonView(*this, i));

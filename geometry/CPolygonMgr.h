@@ -35,6 +35,8 @@ public:
 
     /// Puts a copy behind the last polygon and makes no object; false after a warning.
     virtual bool appendFlat(const CPolygonView& polygon);
+    /// The same for a polygon without holes.
+    virtual bool appendFlat(std::int32_t material, bool isSmooth, std::span<const CZelVertex> loop);
     /// Keeps the memory when making the smaller lists fails.
     void releaseSpareRoom() noexcept;
 
@@ -50,7 +52,11 @@ public:
         return mRecords[static_cast<std::size_t>(index)];
     }
     /// Null when there is no object.
-    const CPolygon* objectAt(std::int32_t index) const;
+    const CPolygon* objectAt(std::int32_t index) const
+    {
+        const CPolygonRecord& record = recordAt(index);
+        return record.kind == CPolygonRecord::eObject ? record.object : nullptr;
+    }
     const CFlatPolygons& flat() const { return mFlat; }
 
 protected:
@@ -62,7 +68,9 @@ private:
     CPolygon* makeObject(std::int32_t index);
     void packAnew() noexcept;
 
-    std::vector<CPolygonRecord> mRecords;
+    using CRecords = std::vector<CPolygonRecord, TLargeAllocator<CPolygonRecord>>;
+
+    CRecords mRecords;
     CFlatPolygons mFlat;
 };
 

@@ -8,39 +8,61 @@
 #include "geometry/geometryWriter.h"
 #include "xml/IBlockHost.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace OvZel {
 
 namespace {
 
+using CPen = CFastWriter::CPen;
+
+void putVertex(CPen& pen, const CZelVertex& vertex)
+{
+    if ((vertex.flags & CZelVertex::kFlagI) != 0)
+        pen.text("I ");
+    if ((vertex.flags & CZelVertex::kFlagM) != 0) {
+        pen.text("M ");
+        pen.real(vertex.u);
+        pen.real(vertex.v);
+    }
+    pen.integer(vertex.pointIndex);
+}
+
 void writeLoop(CFastWriter& out, std::span<const CZelVertex> vertices)
 {
-    out.writeInteger(static_cast<std::int32_t>(vertices.size()));
-    for (const CZelVertex& vertex : vertices) {
-        if ((vertex.flags & CZelVertex::kFlagI) != 0)
-            out.writeText("I ");
-        if ((vertex.flags & CZelVertex::kFlagM) != 0) {
-            out.writeText("M ");
-            out.writeDouble(vertex.u);
-            out.writeDouble(vertex.v);
-        }
-        out.writeInteger(vertex.pointIndex);
+    constexpr std::size_t kAtATime = 64;
+    constexpr std::size_t kVertex = 4 * CFastWriter::kLongest;
+    CPen pen = out.pen(CFastWriter::kLongest);
+    pen.integer(static_cast<std::int32_t>(vertices.size()));
+    out.done(pen);
+    while (!vertices.empty()) {
+        const std::size_t count = std::min(vertices.size(), kAtATime);
+        pen = out.pen(count * kVertex);
+        for (const CZelVertex& vertex : vertices.first(count))
+            putVertex(pen, vertex);
+        out.done(pen);
+        vertices = vertices.subspan(count);
     }
 }
 
 void writePolygon(CFastWriter& out, const CPolygonView& polygon, CZelMgrRef& mgrRef)
 {
-    const std::int32_t holes = polygon.nbLoops() - 1;
-    if (holes > 0 && polygon.isSmooth())
+    if (polygon.nbLoops() > 1 && polygon.isSmooth())
         mgrRef.warning("Holed polygon smoothed (smoothing will be loss)");
-    out.writeText(holes > 0 ? "h\t" : polygon.isSmooth() ? "o\t" : "p\t");
-    out.writeInteger(polygon.getMaterial());
-    if (holes > 0)
-        out.writeInteger(holes + 1);
-    for (std::int32_t i = 0; i < polygon.nbLoops(); ++i)
+    const std::int32_t loops = polygon.nbLoops();
+    const bool isSmooth = polygon.isSmooth();
+    CPen pen = out.pen(3 * CFastWriter::kLongest);
+    pen.text(loops > 1 ? "h\t" : isSmooth ? "o\t" : "p\t");
+    pen.integer(polygon.getMaterial());
+    if (loops > 1)
+        pen.integer(loops);
+    out.done(pen);
+    for (std::int32_t i = 0; i < loops; ++i)
         writeLoop(out, polygon.loop(i));
-    out.writeText("\n");
+    pen = out.pen(1);
+    pen.text("\n");
+    out.done(pen);
 }
 
 void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std::int32_t count,
@@ -85,9 +107,11 @@ bool CPolygonsProvider::Write2(OrvaneXML::XIXMLWriteStream* stream, OrvaneXML::X
     if (count < 0)
         throw std::runtime_error("CPolygonsProvider::Write2 - External storage return -1");
     CFastWriter out(*stream);
-    out.writeText("\n");
-    out.writeUnsigned(static_cast<std::uint32_t>(count));
-    out.writeText("\n");
+    CPen pen = out.pen(CFastWriter::kLongest);
+    pen.text("\n");
+    pen.integer(count);
+    pen.text("\n");
+    out.done(pen);
     writePolygons(*host(), *storage, count, out);
     out.flush();
     return true;

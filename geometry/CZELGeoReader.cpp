@@ -64,6 +64,11 @@ bool CZELGeoReader::append(const CPolygon& polygon)
     return mPolygons.get()->appendFlat(CPolygonView(polygon)) || refuse(kNoPolygon);
 }
 
+bool CZELGeoReader::append(std::int32_t material, bool isSmooth, std::span<const CZelVertex> loop)
+{
+    return mPolygons.get()->appendFlat(material, isSmooth, loop) || refuse(kNoPolygon);
+}
+
 bool CZELGeoReader::refuse(const char* text) const
 {
     CZelMgrRef::from(mMgrRef.get())->warning(text);

@@ -38,6 +38,7 @@ public:
         return true;
     }
     bool append(const CPolygon& polygon);
+    bool append(std::int32_t material, bool isSmooth, std::span<const CZelVertex> loop);
 
 private:
     bool refuse(const char* text) const;

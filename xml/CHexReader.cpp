@@ -1,7 +1,7 @@
 #include "xml/CHexReader.h"
 
 #include "core/OvThrow.h"
-#include "xml/hexWord.h"
+#include "xml/hexWords.h"
 
 #include <algorithm>
 #include <cstring>
@@ -29,10 +29,7 @@ void CHexReader::read(std::uint8_t* bytes, std::size_t nbWords)
 {
     while (nbWords > 0) {
         const std::size_t nb = std::min(fill(), nbWords);
-        std::uint64_t bad = 0;
-        for (std::size_t i = 0; i < nb; ++i)
-            bad |= decodeHexWord(mDigits + mBegin + i * kDigitsPerWord, bytes + i * 4);
-        if (bad != 0)
+        if (decodeHexWords(mDigits + mBegin, bytes, nb) != 0)
             OvThrow::Signal("XCXMLImage::ReadHex - Invalid hex value");
         mBegin += nb * kDigitsPerWord;
         bytes += nb * 4;

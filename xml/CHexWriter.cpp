@@ -1,23 +1,49 @@
 #include "xml/CHexWriter.h"
 
 #include "core/OvThrow.h"
-#include "xml/hexWord.h"
+#include "xml/hexWords.h"
+
+#include <algorithm>
+#include <bit>
 
 namespace OvZel {
 
-void CHexWriter::write(std::uint8_t b0, std::uint8_t b1, std::uint8_t b2, std::uint8_t b3)
+namespace {
+
+/// The bytes of a pixel with alpha moved from the last place to the first.
+std::uint32_t alphaFirst(const CHexWriter::CPixel& pixel)
 {
-    if (mEnd == kNbDigits)
-        flush();
-    const std::uint8_t bytes[] = {b0, b1, b2, b3};
-    encodeHexWord(bytes, mDigits + mEnd);
-    mEnd += kDigitsPerWord;
+    constexpr int kOneByte = std::endian::native == std::endian::little ? 8 : -8;
+    return std::rotl(std::bit_cast<std::uint32_t>(pixel), kOneByte);
 }
+
+} // namespace
 
 void CHexWriter::write(std::uint32_t word)
 {
-    write(static_cast<std::uint8_t>(word >> 24), static_cast<std::uint8_t>(word >> 16),
-          static_cast<std::uint8_t>(word >> 8), static_cast<std::uint8_t>(word));
+    const CPixel bytes{static_cast<std::uint8_t>(word >> 16), static_cast<std::uint8_t>(word >> 8),
+                       static_cast<std::uint8_t>(word), static_cast<std::uint8_t>(word >> 24)};
+    write(&bytes, 1);
+}
+
+void CHexWriter::write(const CPixel* pixels, std::size_t nb)
+{
+    std::uint32_t words[kNbWords];
+    while (nb > 0) {
+        const std::size_t nbNow = std::min(nb, room());
+        std::transform(pixels, pixels + nbNow, words, alphaFirst);
+        encodeHexWords(reinterpret_cast<const std::uint8_t*>(words), mDigits + mEnd, nbNow);
+        mEnd += nbNow * kDigitsPerWord;
+        pixels += nbNow;
+        nb -= nbNow;
+    }
+}
+
+std::size_t CHexWriter::room()
+{
+    if (mEnd == kNbDigits)
+        flush();
+    return (kNbDigits - mEnd) / kDigitsPerWord;
 }
 
 void CHexWriter::flush()

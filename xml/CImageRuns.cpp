@@ -16,6 +16,22 @@ constexpr std::uint32_t kBigEndian = 1;
 constexpr std::uint32_t kLittleEndian = 0x01000000;
 
 constexpr std::size_t kWordsAtATime = 256;
+constexpr std::size_t kFirstRoom = 4 * kWordsAtATime * sizeof(std::uint32_t);
+
+/// The little-endian files that exist have nothing of use behind the first byte of a pixel.
+CImageRuns::CPixel onlyFirst(std::uint32_t word)
+{
+    std::uint8_t first;
+    std::memcpy(&first, &word, 1);
+    return {first, 0, 0, 0};
+}
+
+/// Alpha moves from the first byte to the last.
+CImageRuns::CPixel alphaLast(std::uint32_t word)
+{
+    constexpr int kOneByte = std::endian::native == std::endian::little ? 8 : -8;
+    return std::bit_cast<CImageRuns::CPixel>(std::rotr(word, kOneByte));
+}
 
 } // namespace
 
@@ -83,44 +99,38 @@ void CImageRuns::readPixels(std::size_t nb)
 /// Room for further words, which count as there.
 std::uint32_t* CImageRuns::append(std::size_t nb)
 {
-    if (mRoom - mNbWords < nb) {
-        const std::size_t room = std::max(mRoom * 2, kWordsAtATime * 4);
-        void* larger = std::realloc(mWords.get(), room * sizeof(std::uint32_t));
-        if (larger == nullptr)
+    if (mWords.room - mNbWords < nb) {
+        const std::size_t larger = mWords.room == 0 ? kFirstRoom : nextBufferSize(mWords.size());
+        void* words = resizeBuffer(mWords.data, mWords.size(), larger);
+        if (words == nullptr)
             throw std::bad_alloc();
-        static_cast<void>(mWords.release());
-        mWords.reset(static_cast<std::uint32_t*>(larger));
-        mRoom = room;
+        mWords.data = static_cast<std::uint32_t*>(words);
+        mWords.room = larger / sizeof(std::uint32_t);
     }
     mNbWords += nb;
-    return mWords.get() + mNbWords - nb;
-}
-
-CImageRuns::CPixel CImageRuns::pixel(std::uint32_t word) const
-{
-    // The little-endian files that exist have nothing of use behind the first byte of a pixel.
-    if (mLittleEndian) {
-        std::uint8_t first;
-        std::memcpy(&first, &word, 1);
-        return {first, 0, 0, 0};
-    }
-    // Alpha moves from the first byte to the last.
-    constexpr int kOneByte = std::endian::native == std::endian::little ? 8 : -8;
-    return std::bit_cast<CPixel>(std::rotr(word, kOneByte));
+    return mWords.data + mNbWords - nb;
 }
 
 void CImageRuns::expand(CPixel* out) const
 {
+    if (mLittleEndian)
+        expandAs<&onlyFirst>(out);
+    else
+        expandAs<&alphaLast>(out);
+}
+
+template <CImageRuns::CPixel pixel(std::uint32_t)>
+void CImageRuns::expandAs(CPixel* out) const
+{
     CPixel* const end = out + mNbPixels;
-    const std::uint32_t* word = mWords.get();
+    const std::uint32_t* word = mWords.data;
     while (out != end) {
         const std::uint32_t nbRepeats = *word++;
         out = std::fill_n(out, nbRepeats, pixel(*word++));
         if (out == end)
             break;
         const std::uint32_t nbLiterals = *word++;
-        out = std::transform(word, word + nbLiterals, out,
-                             [this](std::uint32_t stored) { return pixel(stored); });
+        out = std::transform(word, word + nbLiterals, out, pixel);
         word += nbLiterals;
     }
 }

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "core/largePages.h"
 #include "xml/CHexReader.h"
 #include "xml/trn_image_RGBAn8.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 
 namespace OvZel {
 
@@ -21,6 +20,9 @@ public:
     /// Raises "Unknown format" or "XCXMLImage::Read - Wrong data", and what CHexReader raises.
     explicit CImageRuns(OrvaneXML::XIXMLReadStream& stream);
 
+    CImageRuns(const CImageRuns&) = delete;
+    CImageRuns& operator=(const CImageRuns&) = delete;
+
     std::uint32_t width() const { return mWidth; }
     std::uint32_t height() const { return mHeight; }
     std::size_t nbPixels() const { return mNbPixels; }
@@ -33,7 +35,8 @@ private:
     std::uint32_t readNumber();
     std::uint32_t readCount(std::size_t nbLeft);
     void readPixels(std::size_t nb);
-    CPixel pixel(std::uint32_t word) const;
+    template <CPixel pixel(std::uint32_t)>
+    void expandAs(CPixel* out) const;
 
     CHexReader mReader;
     bool mLittleEndian = false;
@@ -44,10 +47,15 @@ private:
 
     // A run's count and pixel, then the count and the pixels of the literal stretch behind it, and
     // so on. Counts are numbers, pixels the four bytes of the stream.
-    // A plain block, since enlarging one this large moves no page of it.
-    std::unique_ptr<std::uint32_t[], void (*)(void*)> mWords{nullptr, std::free};
+    struct CWords {
+        ~CWords() { freeBuffer(data, size()); }
+        std::size_t size() const { return room * sizeof(std::uint32_t); }
+
+        std::uint32_t* data = nullptr;
+        std::size_t room = 0;
+    };
+    CWords mWords;
     std::size_t mNbWords = 0;
-    std::size_t mRoom = 0;
 };
 
 } // namespace OvZel

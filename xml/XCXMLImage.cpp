@@ -1,9 +1,10 @@
 #include "xml/XCXMLImage.h"
 
+#include "core/largePages.h"
 #include "xml/CHexWriter.h"
 #include "xml/CImageRuns.h"
 
-#include <algorithm>
+#include <bit>
 #include <memory>
 #include <new>
 
@@ -13,24 +14,20 @@ namespace {
 
 using CPixel = trn_image_RGBAn8::CPixel;
 
-void writePixel(CHexWriter& out, const CPixel& pixel)
+/// Pixels are compared as one number, which is quicker than channel by channel.
+bool isEqual(const CPixel& a, const CPixel& b)
 {
-    out.write(pixel.alpha, pixel.red, pixel.green, pixel.blue);
-}
-
-void writeCount(CHexWriter& out, const CPixel* first, const CPixel* last)
-{
-    out.write(static_cast<std::uint32_t>(last - first));
+    return std::bit_cast<std::uint32_t>(a) == std::bit_cast<std::uint32_t>(b);
 }
 
 /// Writes the run at `first` and returns its end.
 const CPixel* writeRun(CHexWriter& out, const CPixel* first, const CPixel* end)
 {
     const CPixel* last = first + 1;
-    while (last != end && *last == *first)
+    while (last != end && isEqual(*last, *first))
         ++last;
-    writeCount(out, first, last);
-    writePixel(out, *first);
+    out.write(static_cast<std::uint32_t>(last - first));
+    out.write(first, 1);
     return last;
 }
 
@@ -38,10 +35,11 @@ const CPixel* writeRun(CHexWriter& out, const CPixel* first, const CPixel* end)
 const CPixel* writeLiterals(CHexWriter& out, const CPixel* first, const CPixel* end)
 {
     const CPixel* last = first + 1;
-    while (last != end && !(*last == last[-1]))
+    while (last != end && !isEqual(*last, last[-1]))
         ++last;
-    writeCount(out, first, last);
-    std::for_each(first, last, [&](const CPixel& pixel) { writePixel(out, pixel); });
+    const auto nb = static_cast<std::size_t>(last - first);
+    out.write(static_cast<std::uint32_t>(nb));
+    out.write(first, nb);
     return last;
 }
 
@@ -59,6 +57,7 @@ void XCXMLImage::ReadImage(OrvaneXML::XIXMLReadStream& stream)
         if (runs.nbPixels() == 0)
             return adopt(0, 0, nullptr);
         std::unique_ptr<CPixel[]> made(new CPixel[runs.nbPixels()]);
+        adviseLargePages(made.get(), runs.nbPixels() * sizeof(CPixel));
         runs.expand(made.get());
         adopt(runs.width(), runs.height(), std::move(made));
     } catch (const std::bad_alloc&) {
