@@ -56,11 +56,13 @@ void CFlatPolygons::drop(const CPolygonRecord& record)
     mDead += weight(record);
 }
 
-/// Of later pieces nobody has touched what is not used, so it costs next to nothing.
+/// Of a piece of several blocks nobody has touched what is not used, so it costs next to nothing.
 void CFlatPolygons::releaseSpareRoom()
 {
-    if (mBlocks.size() == 1 && mUsed < mRoom && mRoom <= kBlock)
-        resizeFirst(mUsed);
+    const bool isAlone =
+        !mBlocks.empty() && mBlocks.back() == mPieces.back().data() && mBlocksLeft == 0;
+    if (isAlone && mUsed < mRoom)
+        resizeLast(mUsed);
     mPieces.shrink_to_fit();
     mBlocks.shrink_to_fit();
     mLoops.shrink_to_fit();
@@ -80,7 +82,7 @@ CFlatPolygons::CLoopRecord CFlatPolygons::append(std::span<const CZelVertex> loo
 void CFlatPolygons::makeMoreRoom(std::size_t count)
 {
     if (mBlocks.size() <= 1 && mUsed + count <= kBlock)
-        return resizeFirst(std::clamp(mRoom * 2, std::max(kFirstRoom, mUsed + count), kBlock));
+        return resizeLast(std::clamp(mRoom * 2, std::max(kFirstRoom, mUsed + count), kBlock));
     if (count > kBlock)
         return addBlock(newPiece(count), count);
     if (mBlocksLeft == 0) {
@@ -93,14 +95,14 @@ void CFlatPolygons::makeMoreRoom(std::size_t count)
     --mBlocksLeft;
 }
 
-void CFlatPolygons::resizeFirst(std::size_t room)
+void CFlatPolygons::resizeLast(std::size_t room)
 {
     if (mBlocks.empty())
         return addBlock(newPiece(room), room);
     TLargeArray<CZelVertex> piece(room);
-    std::copy_n(mBlocks.front(), mUsed, piece.data());
-    mBlocks.front() = piece.data();
-    mPieces.front() = std::move(piece);
+    std::copy_n(mBlocks.back(), mUsed, piece.data());
+    mBlocks.back() = piece.data();
+    mPieces.back() = std::move(piece);
     mRoom = room;
 }
 

@@ -86,7 +86,8 @@ private:
             makeMoreRoom(count);
     }
     void makeMoreRoom(std::size_t count);
-    void resizeFirst(std::size_t room);
+    /// Of the last block, which has a piece of its own.
+    void resizeLast(std::size_t room);
     CZelVertex* newPiece(std::size_t room);
     void addBlock(CZelVertex* start, std::size_t room);
     /// What a polygon takes up here, in vertices and loops.
