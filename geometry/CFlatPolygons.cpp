@@ -3,6 +3,7 @@
 #include "geometry/CPolygonView.h"
 
 #include <algorithm>
+#include <new>
 #include <stdexcept>
 
 namespace OvZel {
@@ -57,12 +58,16 @@ void CFlatPolygons::drop(const CPolygonRecord& record)
 }
 
 /// Of a piece of several blocks nobody has touched what is not used, so it costs next to nothing.
-void CFlatPolygons::releaseSpareRoom()
+void CFlatPolygons::releaseSpareRoom() noexcept
 {
     const bool isAlone =
         !mBlocks.empty() && mBlocks.back() == mPieces.back().data() && mBlocksLeft == 0;
-    if (isAlone && mUsed < mRoom)
-        resizeLast(mUsed);
+    try {
+        if (isAlone && mUsed < mRoom)
+            resizeLast(mUsed);
+    } catch (const std::bad_alloc&) {
+        // The spare room stays.
+    }
     mPieces.shrink_to_fit();
     mBlocks.shrink_to_fit();
     mLoops.shrink_to_fit();

@@ -53,7 +53,7 @@ public:
     void drop(const CPolygonRecord& record);
     /// More than half of what lies here belongs to no polygon.
     bool isHalfDead() const { return mDead > mSize / 2; }
-    void releaseSpareRoom();
+    void releaseSpareRoom() noexcept;
 
     std::int32_t nbLoops(const CPolygonRecord& record) const
     {
