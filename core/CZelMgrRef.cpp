@@ -2,13 +2,13 @@
 
 #include "core/OvThrow.h"
 #include "core/query.h"
+#include "core/warnJoined.h"
 
 #include <zel/IZelFeedback.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <stdexcept>
-#include <string>
 
 namespace OvZel {
 
@@ -124,15 +124,13 @@ void CZelMgrRef::warning(const char* text)
 
 void CZelMgrRef::exceptionWarning(const char* context, const std::exception& exception)
 {
-    const std::string text =
-        std::string("Exception in ") + context + " : " + exceptionText(exception);
-    warning(text.c_str());
+    const char* text = exceptionText(exception);
+    warnJoined(*this, {"Exception in ", context, " : ", text}, text);
 }
 
 void CZelMgrRef::unknownExceptionWarning(const char* context)
 {
-    const std::string text = std::string("Unknown exception in ") + context;
-    warning(text.c_str());
+    warnJoined(*this, {"Unknown exception in ", context}, "Unknown exception");
 }
 
 std::uint32_t CZelMgrRef::languageKey() const

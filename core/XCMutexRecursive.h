@@ -1,7 +1,8 @@
 #pragma once
 
+#include "core/CSection.h"
+
 #include <atomic>
-#include <mutex>
 
 namespace Orvane {
 
@@ -50,7 +51,7 @@ private:
         return &marker;
     }
 
-    std::mutex mSection;
+    CSection mSection;
     std::atomic<const void*> mOwner{nullptr};
     int mCount = 0;
 };

@@ -99,7 +99,7 @@ void CZEL::makeContents()
     make(mGrounds, owner);
     make(mLayers, owner);
     make(mHeliodons, owner);
-    mHeliodons->newZelObject(-1); // a document always starts with one
+    OvThrow::IfNULL(mHeliodons->append()); // a document always starts with one
     make(mCameras, owner);
     make(mPolygons, owner);
     make(mPoints, owner, 1024);

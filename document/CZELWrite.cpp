@@ -1,6 +1,7 @@
 #include "document/CZEL.h"
 
 #include "core/OvThrow.h"
+#include "core/warnJoined.h"
 #include "document/CZELXMLWriteStream.h"
 #include "document/versions.h"
 #include "geometry/CPointsProvider.h"
@@ -54,7 +55,7 @@ bool CZEL::writeVersion(IZelWriteStream* stream, IZelExtStorageWriter* writer,
     const CRestore<IZelExtStorageWriter*> storage(mStorageWriter, writer != nullptr ? writer : own);
     const CRestore<const CZelVersion*> saved(mSaveVersion, version);
     const auto tell = [this](const char* text) {
-        sendMessage((std::string("Error \"") + text + "\" while writting").c_str()); // (sic)
+        warnJoined(*mMgrRef.getPtr(), {"Error \"", text, "\" while writting"}, text); // (sic)
     };
     try {
         OvThrow::IfNULL(stream);

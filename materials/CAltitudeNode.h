@@ -82,7 +82,7 @@ private:
     };
 
     CValues mValues;
-    TZelComPtr<CSubParts> mSubParts{new CSubParts(this)};
+    TZelComPtr<CSubParts> mSubParts = made<CSubParts>();
     CZelUUID mSubPartsId;
 };
 

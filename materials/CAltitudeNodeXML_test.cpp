@@ -29,18 +29,24 @@ std::vector<CRow> rows()
         flag("Mix", false),
         real("Mix.Value", 16.0, 0.0),
         color("Mix.Color", {1, 2, 3}, {127, 127, 127}),
-        optional(raw("Sub.Parts",
-                     "<Sub.Parts><Sub.Part><Maps><URL Type=\"Bump\">a</URL></Maps>"
-                     "<Width>2.000000</Width><Height>3.000000</Height></Sub.Part></Sub.Parts>",
-                     "<Sub.Parts/>")),
+        alsoReads(
+            optional(raw("Sub.Parts",
+                         "<Sub.Parts><Sub.Part><Maps><URL Type=\"Bump\">a</URL></Maps>"
+                         "<Width>2.000000</Width><Height>3.000000</Height></Sub.Part></Sub.Parts>",
+                         "<Sub.Parts/>")),
+            "<Maps/><Texture1Height>5</Texture1Height><Texture1Width>6</Texture1Width>",
+            "<Sub.Parts><Sub.Part><Maps/><Width>6.000000</Width><Height>5.000000</Height></"
+            "Sub.Part></Sub.Parts>"),
     };
 }
 
 CForm form()
 {
-    return {{"Sub.Parts", "Angle", "Origin", "X.Center", "Y.Center", "HighStartValue",
-             "MedStartValue", "Slope", "Smoothness", "SlopeAmplify", "TransitionContrast",
-             "RandomSeed", "Bump", "Normal.Map", "Mix", "Mix.Color", "Mix.Value"}};
+    return {.readOrder = {"Sub.Parts", "Angle", "Origin", "X.Center", "Y.Center", "HighStartValue",
+                          "MedStartValue", "Slope", "Smoothness", "SlopeAmplify",
+                          "TransitionContrast", "RandomSeed", "Bump", "Normal.Map", "Mix",
+                          "Mix.Color", "Mix.Value"},
+            .which = "Altitude"};
 }
 
 } // namespace

@@ -61,9 +61,9 @@ private:
     };
 
     CValues mValues;
-    TZelComPtr<CTable> mTable1{new CTable(this)};
-    TZelComPtr<CTable> mTable2{new CTable(this)};
-    TZelComPtr<CTable> mTable3{new CTable(this)};
+    TZelComPtr<CTable> mTable1 = made<CTable>();
+    TZelComPtr<CTable> mTable2 = made<CTable>();
+    TZelComPtr<CTable> mTable3 = made<CTable>();
 };
 
 } // namespace OvZel

@@ -24,7 +24,7 @@ std::vector<CRow> rows()
         xyz("Proportion", {16, 17, 18}, {0, 0, 0}),
         flag("Checker", false),
         flag("Smooth", false),
-        required(attribute("Geometry", "Sphere", "Cube"),
+        required(oneOf(attribute("Geometry", "Sphere", "Cube"), {"Cylinder", "Sphere", "Cube"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Geometry"),
         raw("Table1", "<Table1 Length=\"1\"><Float>1.500000</Float></Table1>",
             "<Table1 " + kEmptyTable),
@@ -40,7 +40,7 @@ std::vector<CRow> rows()
 
 TEST(ChessNodeXml, FileForm)
 {
-    checkElement<CNodeForm<CChessNode>>("Node", rows());
+    checkElement<CNodeForm<CChessNode>>("Node", rows(), {.which = "Chess"});
 }
 
 TEST(ChessNodeXml, PointsDirectionsAndVectors)

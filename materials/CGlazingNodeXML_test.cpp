@@ -24,7 +24,7 @@ std::vector<CRow> rows()
 
 TEST(GlazingNodeXml, FileForm)
 {
-    checkElement<CNodeForm<CGlazingNode>>("Node", rows());
+    checkElement<CNodeForm<CGlazingNode>>("Node", rows(), {.which = "Glazing"});
 }
 
 TEST(GlazingNodeXml, Copies)

@@ -37,7 +37,7 @@ const std::string kNumbers =
 TEST(LeafNodeXml, FileForm)
 {
     const std::vector<CRow> rows = {
-        attribute("Shape", "Bulb", "General"),
+        oneOf(attribute("Shape", "Bulb", "General"), {"General", "Bulb", "Plane"}),
         color("Diffuse", {1, 2, 3}, {100, 100, 100}),
         color("Transparent", {4, 5, 6}, {0, 0, 0}),
         color("Specular", {7, 8, 9}, {0, 0, 0}),
@@ -50,7 +50,8 @@ TEST(LeafNodeXml, FileForm)
                         {"Emitting.Power"}),
         real("Emitting.Power", 5.5, 0.0),
         optional(real("Reflection.Limit", 6.5, 0.0)),
-        absentAlsoDrops(attribute("Illumination.Model", "Cook.Torrance", "Phong"),
+        absentAlsoDrops(oneOf(attribute("Illumination.Model", "Cook.Torrance", "Phong"),
+                              {"Phong", "Cook.Torrance"}),
                         {"Glossy.Reflection.Sampling", "Glossy.Refraction.Sampling", "Roughness",
                          "Reflectance", "Glossy.Reflection.Shininess",
                          "Glossy.Refraction.Shininess"}),
@@ -63,6 +64,7 @@ TEST(LeafNodeXml, FileForm)
         integer("Glossy.Refraction.Shininess", 14, 1000),
     };
     CForm form;
+    form.which = "Leaf";
     form.readOrder = {"Diffuse",
                       "Transparent",
                       "Specular",

@@ -70,8 +70,11 @@ TEST(MappingNodeXml, FileForm)
 {
     const std::string noProjection = "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Projection";
     const std::vector<CRow> rows = {
-        raw("Maps", "<Maps><URL Type=\"Diffuse\">a.png</URL><URL Type=\"Bump\">b.png</URL></Maps>",
-            "<Maps/>"),
+        alsoReads(
+            raw("Maps",
+                "<Maps><URL Type=\"Diffuse\">a.png</URL><URL Type=\"Bump\">b.png</URL></Maps>",
+                "<Maps/>"),
+            "<URL>c.png</URL>", "<Maps><URL Type=\"Diffuse\">c.png</URL></Maps>"),
         optional(raw("Maps.Linked",
                      "<Maps.Linked><Map.Node Id=\"" + kIdText + "\"/><Map.Node Id=\"" + kOtherText +
                          "\"/></Maps.Linked>",
@@ -106,7 +109,10 @@ TEST(MappingNodeXml, FileForm)
         presence("Y.Mirror"),
         presence("Alpha.Bump"),
         presence("Alpha.Transparency"),
-        required(attribute("Projection", "Horizontal", "X.Cylindrical"), noProjection),
+        required(oneOf(attribute("Projection", "Horizontal", "X.Cylindrical"),
+                       {"Planetary", "Orthogonal", "Vertical", "Spherical", "Y.Cylindrical",
+                        "X.Cylindrical", "Mapping.UV", "Horizontal", "Planar"}),
+                 noProjection),
         flag("Visible", true),
         presence("Mix"),
         color("Mix.Color", {16, 17, 18}, {127, 127, 127}),
@@ -123,7 +129,7 @@ TEST(MappingNodeXml, FileForm)
         attribute("MappingNode.Parent.Id", kOtherText, kNull),
         presence("Glossy.Activated"),
     };
-    checkElement("Node", rows, newMapping);
+    checkElement("Node", rows, newMapping, {.which = "Mapping"});
 }
 
 TEST(MappingNodeXml, ProjectionsHaveTheirLabels)

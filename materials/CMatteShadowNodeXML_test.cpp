@@ -20,7 +20,7 @@ std::vector<CRow> rows()
 
 TEST(MatteShadowNodeXml, FileForm)
 {
-    checkElement<CNodeForm<CMatteShadowNode>>("Node", rows());
+    checkElement<CNodeForm<CMatteShadowNode>>("Node", rows(), {.which = "MatteShadow"});
 }
 
 TEST(MatteShadowNodeXml, Copies)

@@ -14,7 +14,9 @@ namespace {
 std::vector<CRow> rows()
 {
     return {
-        required(attribute("Projection", "Spherical", "Vertical"),
+        required(oneOf(attribute("Projection", "Spherical", "Vertical"),
+                       {"Planetary", "Orthogonal", "Vertical", "Spherical", "Y.Cylindrical",
+                        "X.Cylindrical", "Mapping.UV", "Horizontal", "Planar"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Projection"),
         real("Angle", 1.0, 0.0),
         optional(xyz("Origin", {2, 3, 4}, {0, 0, 0})),
@@ -23,12 +25,16 @@ std::vector<CRow> rows()
         xyz("Normal", {7, 8, 9}, {0, 0, -1}),
         xyz("X.Axis", {10, 11, 12}, {-1, 0, 0}),
         xyz("Y.Axis", {13, 14, 15}, {0, -1, 0}),
-        optional(raw("Sub.Parts",
-                     "<Sub.Parts><Sub.Part><Maps><URL Type=\"Bump\">a</URL></Maps>"
-                     "<Width>2.000000</Width><Height>3.000000</Height></Sub.Part>"
-                     "<Sub.Part><Maps><URL Type=\"Alpha\">b</URL></Maps>"
-                     "<Width>4.000000</Width><Height>5.000000</Height></Sub.Part></Sub.Parts>",
-                     "<Sub.Parts/>")),
+        alsoReads(
+            optional(raw("Sub.Parts",
+                         "<Sub.Parts><Sub.Part><Maps><URL Type=\"Bump\">a</URL></Maps>"
+                         "<Width>2.000000</Width><Height>3.000000</Height></Sub.Part>"
+                         "<Sub.Part><Maps><URL Type=\"Alpha\">b</URL></Maps>"
+                         "<Width>4.000000</Width><Height>5.000000</Height></Sub.Part></Sub.Parts>",
+                         "<Sub.Parts/>")),
+            "<Maps/><Texture1Height>5</Texture1Height><Texture1Width>6</Texture1Width>",
+            "<Sub.Parts><Sub.Part><Maps/><Width>6.000000</Width><Height>5.000000</Height></"
+            "Sub.Part></Sub.Parts>"),
         color("Reflection", {4, 5, 6}, {0, 0, 0}),
         real("Reflection.Limit", 16.0, 0.0),
         real("Glossy", 1017.0, 1000.0),
@@ -47,11 +53,13 @@ std::vector<CRow> rows()
 
 CForm form()
 {
-    return {
-        {"Projection", "Angle",      "Origin",     "X.Center",  "Y.Center",   "Normal",
-         "X.Axis",     "Y.Axis",     "Sub.Parts",  "Glossy",    "Reflection", "Reflection.Limit",
-         "Bump",       "Normal.Map", "Mix",        "Mix.Color", "Mix.Value",  "Threshold1",
-         "Threshold2", "Transition", "Resolution", "RandomSeed"}};
+    return {.readOrder = {"Projection", "Angle",      "Origin",     "X.Center",
+                          "Y.Center",   "Normal",     "X.Axis",     "Y.Axis",
+                          "Sub.Parts",  "Glossy",     "Reflection", "Reflection.Limit",
+                          "Bump",       "Normal.Map", "Mix",        "Mix.Color",
+                          "Mix.Value",  "Threshold1", "Threshold2", "Transition",
+                          "Resolution", "RandomSeed"},
+            .which = "MultiTexture"};
 }
 
 } // namespace

@@ -97,7 +97,7 @@ std::vector<CRow> propertyRows()
         required(raw("Name", "<Name en=\"Wood\"/>", "<Name en=\"Material #0\"/>"),
                  "CZelXMLGet::CZelXMLGet - NULL ptr"),
         flag("Visible", true),
-        flag("Cast.Shadow", true),
+        alsoReads(flag("Cast.Shadow", true), "<Shadow/>", "<Cast.Shadow/>"),
         flag("Receive.Shadow", true),
         flag("UV.Defined", false),
         flag("Billboard", false),

@@ -6,6 +6,7 @@
 #include "materials/CLoopGuard.h"
 #include "materials/CZelTCE.h"
 
+#include <new>
 #include <unordered_set>
 #include <utility>
 
@@ -15,6 +16,16 @@ namespace {
 
 using CChilds = std::vector<TZelComPtr<ITCENode>>;
 
+/// Without memory for the queue the child goes at once.
+void releaseLater(CChilds& queue, TZelComPtr<ITCENode>& child)
+{
+    try {
+        queue.push_back(std::move(child));
+    } catch (const std::bad_alloc&) {
+        child.reset();
+    }
+}
+
 /// Gives the references back one after the other, also those of the children of nodes that die of
 /// it: a chain of nodes may be longer than the stack is deep.
 void releaseInTurn(CChilds&& childs)
@@ -22,7 +33,7 @@ void releaseInTurn(CChilds&& childs)
     thread_local CChilds* queue = nullptr;
     if (queue != nullptr) {
         for (TZelComPtr<ITCENode>& child : childs)
-            queue->push_back(std::move(child));
+            releaseLater(*queue, child);
         return;
     }
     queue = &childs;

@@ -40,7 +40,7 @@ private:
     };
 
     CValues mValues;
-    TZelComPtr<CTable> mTable{new CTable(this)};
+    TZelComPtr<CTable> mTable = made<CTable>();
 };
 
 } // namespace OvZel

@@ -25,7 +25,7 @@ std::vector<CRow> rows()
 
 TEST(TurbulenceNodeXml, FileForm)
 {
-    checkElement<CNodeForm<CTurbulenceNode>>("Node", rows());
+    checkElement<CNodeForm<CTurbulenceNode>>("Node", rows(), {.which = "Turbulence"});
 }
 
 TEST(TurbulenceNodeXml, PointsDirectionsAndVectors)

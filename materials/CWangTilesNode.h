@@ -98,7 +98,7 @@ private:
     };
 
     CValues mValues;
-    TZelComPtr<CTiles> mTiles{new CTiles(this)};
+    TZelComPtr<CTiles> mTiles = made<CTiles>();
     CZelUUID mSubPartsId = generateId();
 };
 

@@ -16,7 +16,9 @@ namespace {
 std::vector<CRow> rows()
 {
     return {
-        required(attribute("Projection", "Spherical", "Vertical"),
+        required(oneOf(attribute("Projection", "Spherical", "Vertical"),
+                       {"Planetary", "Orthogonal", "Vertical", "Spherical", "Y.Cylindrical",
+                        "X.Cylindrical", "Mapping.UV", "Horizontal", "Planar"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Projection"),
         real("Angle", 1.0, 0.0),
         optional(xyz("Origin", {2, 3, 4}, {0, 0, 0})),
@@ -38,20 +40,24 @@ std::vector<CRow> rows()
         color("Mix.Color", {1, 2, 3}, {127, 127, 127}),
         color("Transparent", {7, 8, 9}, {0, 0, 0}),
         real("Ambient", 23.0, 0.0),
-        optional(raw("Sub.Parts",
-                     "<Sub.Parts><Maps><URL Type=\"Diffuse\">a</URL><URL Type=\"Movie\">b</URL>"
-                     "</Maps><Maps><URL Type=\"Relief\">c</URL></Maps></Sub.Parts>",
-                     "<Sub.Parts/>")),
+        alsoReads(
+            optional(raw("Sub.Parts",
+                         "<Sub.Parts><Maps><URL Type=\"Diffuse\">a</URL><URL Type=\"Movie\">b</URL>"
+                         "</Maps><Maps><URL Type=\"Relief\">c</URL></Maps></Sub.Parts>",
+                         "<Sub.Parts/>")),
+            "<Maps/><Maps/>", "<Sub.Parts><Maps/><Maps/></Sub.Parts>"),
     };
 }
 
 CForm form()
 {
-    return {{"Projection",     "Angle",    "Origin",     "X.Center",         "Y.Center",
-             "Normal",         "X.Axis",   "Y.Axis",     "RandomSeed",       "TexturesWidth",
-             "TexturesHeight", "Glossy",   "Reflection", "Reflection.Limit", "Bump",
-             "Normal.Map",     "Mix",      "Mix.Color",  "Mix.Value",        "Transparent",
-             "Ambient",        "Sub.Parts"}};
+    return {.readOrder =
+                {"Projection",     "Angle",    "Origin",     "X.Center",         "Y.Center",
+                 "Normal",         "X.Axis",   "Y.Axis",     "RandomSeed",       "TexturesWidth",
+                 "TexturesHeight", "Glossy",   "Reflection", "Reflection.Limit", "Bump",
+                 "Normal.Map",     "Mix",      "Mix.Color",  "Mix.Value",        "Transparent",
+                 "Ambient",        "Sub.Parts"},
+            .which = "WangTexture"};
 }
 
 /// A new node's text with something else in the place of its tiles.

@@ -31,7 +31,7 @@ TYPED_TEST_SUITE(FresnelNode, CFresnelNodes);
 
 TYPED_TEST(FresnelNode, FileForm)
 {
-    checkElement<CNodeForm<TypeParam>>("Node", rows());
+    checkElement<CNodeForm<TypeParam>>("Node", rows(), {.which = "Fresnel"});
 }
 
 TYPED_TEST(FresnelNode, Copies)

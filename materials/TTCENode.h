@@ -14,6 +14,14 @@ public:
 
 protected:
     using CTCENode::CTCENode;
+
+    /// A part of the node. A function, since GCC 12 loses the memory of a new-expression that
+    /// stands in the initialiser of a member when the constructor behind it throws.
+    template <class T>
+    TZelComPtr<T> made()
+    {
+        return TZelComPtr<T>(new T(this));
+    }
 };
 
 } // namespace OvZel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <new>
 
 namespace OvZel {
 
@@ -11,6 +12,8 @@ void readWhileItLasts(Reads&& reads)
 {
     try {
         reads();
+    } catch (const std::bad_alloc&) {
+        throw; // the item may well be there
     } catch (const std::exception&) {
         // The first missing item ends the block; that is no failure.
     }

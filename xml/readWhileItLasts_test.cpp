@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <stdexcept>
 
 using OvZel::readWhileItLasts;
@@ -20,4 +21,9 @@ TEST(ReadWhileItLasts, EndsAtTheFirstMissingItem)
 TEST(ReadWhileItLasts, LetsOtherFailuresThrough)
 {
     EXPECT_THROW(readWhileItLasts([] { throw 1; }), int);
+}
+
+TEST(ReadWhileItLasts, MemoryThatRunsOutIsNoMissingItem)
+{
+    EXPECT_THROW(OvZel::readWhileItLasts([] { throw std::bad_alloc(); }), std::bad_alloc);
 }

@@ -243,7 +243,17 @@ void CXMLElement::SetCData(XIXMLData::IXMLCData* provider)
     else if (node)
         node->Destroy();
     else if (provider)
+        AppendOwnCData(provider);
+}
+
+void CXMLElement::AppendOwnCData(XIXMLData::IXMLCData* provider)
+{
+    try {
         AppendCData(provider);
+    } catch (...) {
+        provider->Destroy();
+        throw;
+    }
 }
 
 // ---- the element itself

@@ -96,9 +96,12 @@ public:
     /// The element has no nodes and is not the root; the text is not empty.
     void SetLoneText(std::string_view text) { HoldText(Store().NewText(text)); }
     void DropLoneText();
+    /// Owns the provider from the moment that it returns.
     CXMLNode* AppendCData(XIXMLData::IXMLCData* provider);
 
 private:
+    /// Destroys the provider when this throws.
+    void AppendOwnCData(XIXMLData::IXMLCData* provider);
     CXMLElement* AppendNamed(const SXMLName* name);
     CXMLAttribute* LastAttribute() const;
     bool IsBelow(const CXMLNode* node) const;

@@ -1,0 +1,63 @@
+#include "tests/faults/CTracedTool.h"
+
+#include <csignal>
+#include <stdexcept>
+#include <sys/ptrace.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+
+namespace ZelTest {
+
+bool CTracedTool::isPossible()
+{
+    try {
+        return CTracedTool({"true"}).goToNextStop();
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+CTracedTool::CTracedTool(const std::vector<std::string>& arguments)
+{
+    std::vector<char*> pointers;
+    for (const std::string& argument : arguments)
+        pointers.push_back(const_cast<char*>(argument.c_str()));
+    pointers.push_back(nullptr);
+    mProcess = fork();
+    if (mProcess == 0) {
+        if (ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) == 0)
+            execvp(pointers[0], pointers.data());
+        _exit(127);
+    }
+    int status = 0;
+    waitpid(mProcess, &status, 0);
+    if (!WIFSTOPPED(status)) // it stops where its program begins
+        throw std::runtime_error("no process may be traced");
+    ptrace(PTRACE_SETOPTIONS, mProcess, nullptr, PTRACE_O_TRACESYSGOOD | PTRACE_O_EXITKILL);
+}
+
+bool CTracedTool::goToNextStop()
+{
+    for (int signal = 0, status = 0;;) {
+        if (ptrace(PTRACE_SYSCALL, mProcess, nullptr, signal) != 0 ||
+            waitpid(mProcess, &status, 0) < 0 || !WIFSTOPPED(status)) {
+            mProcess = -1;
+            return false;
+        }
+        if (WSTOPSIG(status) == (SIGTRAP | 0x80))
+            return true;
+        signal = WSTOPSIG(status);
+    }
+}
+
+void CTracedTool::end()
+{
+    const pid_t process = std::exchange(mProcess, -1);
+    if (process <= 0)
+        return;
+    kill(process, SIGKILL);
+    waitpid(process, nullptr, 0);
+}
+
+} // namespace ZelTest
