@@ -7,10 +7,17 @@
 
 #include <zel/IZelMgr.h>
 
+#include <algorithm>
+#include <assimp/Exporter.hpp>
+#include <assimp/Importer.hpp>
+#include <assimp/scene.h>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <iterator>
+#include <map>
 #include <memory>
+#include <set>
 
 namespace {
 
@@ -54,6 +61,67 @@ std::vector<std::string> linesOf(const std::string& path, const std::string& sta
             lines.push_back(line.substr(start.size()));
     return lines;
 }
+
+/// The identifiers of a document by kind and name, with a stroke at a name that was there already.
+class CIds {
+public:
+    explicit CIds(OvZel::IZelMgr& document)
+    {
+        add("document", *document.getObjectDefinition());
+        add("file", *document.getFileInfo());
+        auto* views = document.getCameras(); // whose own ones no file keeps
+        for (std::int32_t i = 0; i < views->getNbObjects(); ++i)
+            add("view", *views->getZelObject(i)->getViewInfo());
+        addAll("heliodon", document.getHeliodons());
+        addAll("layer", document.getLayers());
+        addAll("instance", document.getObjectInstances());
+        addAll("component", document.getDefinitions());
+        addAll("material", document.getProperties());
+        auto* definitions = document.getDefinitions();
+        for (std::int32_t i = 0; i < definitions->getNbObjects(); ++i) {
+            OvZel::IZelZelObjectDefinition& component = *definitions->getZelObject(i);
+            addAll("in " + nameOf(&component), component.getProperties());
+        }
+    }
+
+    /// The keys that only one of the two has, or that say another thing.
+    std::vector<std::string> differences(const CIds& other) const
+    {
+        std::set<std::pair<std::string, OvZel::CZelUUID>> all;
+        std::set_symmetric_difference(mIds.begin(), mIds.end(), other.mIds.begin(),
+                                      other.mIds.end(), std::inserter(all, all.end()));
+        std::set<std::string> keys;
+        for (const auto& [key, id] : all)
+            keys.insert(key);
+        return {keys.begin(), keys.end()};
+    }
+    OvZel::CZelUUID at(const std::string& key) const { return mIds.at(key); }
+    std::size_t getNbDistinct() const
+    {
+        std::set<OvZel::CZelUUID> distinct;
+        for (const auto& [key, id] : mIds)
+            if (!id.isNull())
+                distinct.insert(id);
+        return distinct.size();
+    }
+    std::size_t size() const { return mIds.size(); }
+
+private:
+    void add(std::string key, OvZel::IZelBasic& object)
+    {
+        while (mIds.count(key) > 0)
+            key += "'";
+        mIds[key] = *object.getBasicData()->getId();
+    }
+    template <class T>
+    void addAll(const std::string& kind, OvZel::TZelObjectMgr<T>* list)
+    {
+        for (std::int32_t i = 0; i < list->getNbObjects(); ++i)
+            add(kind + " " + nameOf(list->getZelObject(i)), *list->getZelObject(i));
+    }
+
+    std::map<std::string, OvZel::CZelUUID> mIds;
+};
 
 class ToolModel : public testing::Test {
 protected:
@@ -195,6 +263,90 @@ TEST_F(ToolModel, EachMaterialIsAProperty)
     }
     EXPECT_STREQ(definition(0).getProperties()->getZelObject(0)->getDiffuseMapUrl(),
                  "brick wall.png");
+}
+
+TEST_F(ToolModel, AnUnchangedModelGivesTheSameDocument)
+{
+    const std::string model = collada({{"near", "tri", "red", kTurned},
+                                       {"near", "tri", "red", kSheared},
+                                       {"floor", "sq", "steel", moved(0, -1, 0)}},
+                                      {{"view", "wide", moved(0, 0, 0), moved(1, 2, 3)}});
+    CTempFolder elsewhere;
+    mFolder.put("in.mtl", "newmtl Wall\nKd 0.5 0.25 0.125\nmap_Kd a wall.jpg\n");
+    elsewhere.put("in.mtl", contents(mFolder.file("in.mtl")));
+    const std::string obj = "mtllib in.mtl\nv 0 0 0\nv 1 0 0\nv 1 1 0\nusemtl Wall\nf 1 2 3\n";
+    const std::pair<std::string, std::string> models[] = {
+        {mFolder.put("house.dae", model), elsewhere.put("copy.dae", model)},
+        {mFolder.put("wall.obj", obj), elsewhere.put("copy.obj", obj)},
+    };
+    for (const auto& [original, copy] : models)
+        for (const bool isFlat : {false, true}) {
+            load(original, isFlat);
+            const std::string first = contents(mFile);
+            load(copy, isFlat);
+            EXPECT_TRUE(contents(mFile) == first) << original << (isFlat ? " --flat" : "");
+        }
+}
+
+TEST_F(ToolModel, AChangeOfTheModelChangesNoOtherIdentifier)
+{
+    const CNode near{"near", "tri", "red", moved(0, 0, 0)};
+    const CNode far{"far", "tri", "red", kTurned};
+    const CNode floor{"floor", "sq", "steel", moved(0, -1, 0)};
+    const CNode leaning{"leaning", "sq", "steel", kSheared};
+    const CNode again{"near", "tri", "red", moved(3, 0, 0)};
+    const CNode away{"away", "tri", "red", kTurned};
+    const CNode hill{"hill", "big", "steel", moved(0, 0, 9)};
+    const CNode raised{"floor", "sq", "steel", moved(0, 7, 0)};
+    const CCameraNode view{"view", "wide", moved(0, 0, 0), moved(1, 2, 3)};
+    load(mFolder.put("house.dae", collada({near, far, floor, leaning, again}, {view})));
+    const CIds before(document());
+    EXPECT_EQ(before.getNbDistinct(), before.size());
+    // Of the instances with one name, and those of another mesh in its own component.
+    EXPECT_NE(before.at("instance near"), before.at("instance near'"));
+    EXPECT_NE(before.at("component leaning"), before.at("component sq"));
+
+    const struct {
+        std::vector<CNode> nodes;
+        std::vector<std::string> changed; ///< but for the document and its file
+    } cases[] = {
+        {{near, far, raised, leaning, again}, {}},
+        {{leaning, near, again, floor, far}, {}},
+        {{near, away, floor, leaning, again},
+         {"instance away", "instance far", "layer away", "layer far"}},
+        {{hill, near, far, floor, leaning, again},
+         {"component big", "in big Steel", "instance hill", "layer hill"}},
+        {{near, far, leaning, again},
+         {"component sq", "in sq Steel", "instance floor", "layer floor"}},
+        {{near, far, floor, leaning}, {"instance near'"}},
+    };
+    for (auto item : cases) {
+        load(mFolder.put("house.dae", collada(item.nodes, {view})));
+        item.changed.insert(item.changed.end(), {"document", "file"});
+        EXPECT_THAT(before.differences(CIds(document())),
+                    testing::UnorderedElementsAreArray(item.changed));
+    }
+}
+
+TEST_F(ToolModel, MeshesWithoutNamesAreKnownByTheirPlaces)
+{
+    const CNode near{"near", "tri", "red", moved(0, 0, 0)};
+    const CNode floor{"floor", "sq", "steel", moved(0, -1, 0)};
+    const CNode hill{"hill", "big", "steel", moved(0, 0, 9)};
+    const auto nameless = [&](const std::vector<CNode>& nodes) {
+        Assimp::Importer importer;
+        const aiScene* scene = importer.ReadFile(mFolder.put("named.dae", collada(nodes)), 0U);
+        const std::string path = mFolder.file("nameless.assbin"); // which keeps none of meshes
+        EXPECT_EQ(Assimp::Exporter().Export(scene, "assbin", path), aiReturn_SUCCESS);
+        return path;
+    };
+    load(nameless({near, floor}));
+    const CIds before(document());
+    load(nameless({hill, near, floor}));
+    const CIds after(document());
+    EXPECT_EQ(after.at("component mesh_1"), before.at("component mesh_0"));
+    EXPECT_EQ(after.at("component mesh_2"), before.at("component mesh_1"));
+    EXPECT_EQ(after.getNbDistinct(), after.size());
 }
 
 TEST_F(ToolModel, EveryPlaceComesBack)

@@ -5,6 +5,7 @@
 #include "tools/gltfCameras.h"
 #include "tools/interrupt.h"
 #include "tools/nodeTransform.h"
+#include "tools/stableId.h"
 
 #include <zel/IZelMgr.h>
 
@@ -83,10 +84,13 @@ CModelCameras::CModelCameras(const aiScene& scene)
 
 void CModelCameras::addTo(OvZel::IZelMgr& document) const
 {
+    CEqualNames names;
     for (const CView& each : mViews) {
         OvZel::IZelCamera* view = document.getCameras()->newZelObject(-1);
         if (!view)
             throw std::bad_alloc();
+        const OvZel::CZelUUID id = stableId("camera", {}, each.name, names.add(each.name));
+        view->getViewInfo()->getBasicData()->setId(&id); // a file keeps none of the view itself
         if (!each.name.empty())
             view->getBasicData()->setName(each.name.c_str());
         view->setPosition(each.position);

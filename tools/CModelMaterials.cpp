@@ -1,5 +1,9 @@
 #include "tools/CModelMaterials.h"
 
+#include "tools/nodeTree.h"
+#include "tools/stableId.h"
+
+#include <zel/IMappingNode.h>
 #include <zel/IZelBasicData.h>
 #include <zel/IZelProperty.h>
 
@@ -120,6 +124,21 @@ void CModelMaterials::fillMaps(IZelProperty& property, const aiMaterial& materia
     }
 }
 
+// To be called when the property has all its nodes.
+static void identify(IZelProperty& property)
+{
+    OvZel::IZelBasicData& data = *property.getBasicData();
+    const OvZel::CZelUUID id = stableId("property", {}, data.getName());
+    data.setId(&id);
+    std::uint64_t number = 0;
+    forEachNode(property, [&](OvZel::ITCENode& node, int) {
+        node.setId(stableId("node of material", id, "", number));
+        if (OvZel::IMappingNode* mapping = node.asMappingNode())
+            mapping->setMappingNodeId(stableId("mapping of material", id, "", number));
+        ++number;
+    });
+}
+
 void CModelMaterials::fill(IZelProperty& property, const aiMaterial& material)
 {
     std::string name = material.GetName().C_Str();
@@ -128,6 +147,7 @@ void CModelMaterials::fill(IZelProperty& property, const aiMaterial& material)
     property.getBasicData()->setName(mNames.add(name).c_str());
     fillSurface(property, material);
     fillMaps(property, material);
+    identify(property);
 }
 
 // All values of a material. Two of the same text are copies.

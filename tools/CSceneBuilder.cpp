@@ -66,29 +66,46 @@ void CSceneBuilder::addWhole()
 
 void CSceneBuilder::findPlacesAt(const CPlace& place)
 {
+    CEqualNames names;
     for (unsigned i = 0; i < place.node->mNumMeshes; ++i) {
         const unsigned mesh = place.node->mMeshes[i];
         if (mesh >= mScene.mNumMeshes || mSource.getNbPolygons(mesh) == 0)
             continue;
+        const std::string name = mScene.mMeshes[mesh]->mName.C_Str();
         CPlace& found = mPlaces.emplace_back(place);
         found.mesh = mesh;
+        found.id = stableId("place", place.id, name, names.add(name));
+        mFirstPlace.emplace(mesh, found.id);
         found.placement = exactPlacement(place.transform, mSource.getBox(mesh));
     }
 }
 
+static std::vector<CZelUUID> idsOfChildren(const aiNode& node, const CZelUUID& id)
+{
+    std::vector<CZelUUID> ids;
+    CEqualNames names;
+    for (unsigned i = 0; i < node.mNumChildren; ++i) {
+        const std::string name = node.mChildren[i]->mName.C_Str();
+        ids.push_back(stableId("node", id, name, names.add(name)));
+    }
+    return ids;
+}
+
 void CSceneBuilder::findPlaces()
 {
-    std::vector<CPlace> waiting{{0, mScene.mRootNode, mScene.mRootNode, {}, {}}};
+    std::vector<CPlace> waiting{{0, mScene.mRootNode, mScene.mRootNode, {}, {}, {}}};
     waiting.back().transform = transformOf(*mScene.mRootNode);
     while (!waiting.empty()) {
         checkInterrupt();
         const CPlace place = waiting.back();
         waiting.pop_back();
         findPlacesAt(place);
+        const std::vector<CZelUUID> ids = idsOfChildren(*place.node, place.id);
         for (unsigned i = place.node->mNumChildren; i-- > 0;) {
             const aiNode* child = place.node->mChildren[i];
             CPlace& below = waiting.emplace_back(place);
             below.node = child;
+            below.id = ids[i];
             below.top = place.node == mScene.mRootNode ? child : place.top;
             below.transform = place.transform * transformOf(*child);
         }
@@ -100,27 +117,42 @@ static std::string nameOf(const aiMesh& mesh, unsigned number)
     return mesh.mName.length > 0 ? mesh.mName.C_Str() : "mesh_" + std::to_string(number);
 }
 
-CZelUUID CSceneBuilder::addDefinition(unsigned mesh, const std::string& name)
+// A number among the meshes of one name would pass to another mesh when one is added or goes.
+CZelUUID CSceneBuilder::idOfMesh(unsigned mesh)
+{
+    const std::string name = mScene.mMeshes[mesh]->mName.C_Str();
+    if (!name.empty() && mNbOfName[name] == 1)
+        return stableId("component", {}, name);
+    const auto place = mFirstPlace.find(mesh);
+    if (place != mFirstPlace.end())
+        return stableId("component of place", place->second, "");
+    return stableId("component without place", {}, name, mUnplaced.add(name));
+}
+
+void CSceneBuilder::addDefinition(unsigned mesh, const std::string& name, const CZelUUID& id)
 {
     OvZel::IZelZelObjectDefinition& definition = added(mDocument.getDefinitions());
     definition.setClass("ModelObject");
     // Level 0 is an export's one top-level component, whose instances no import takes over.
     definition.setGeometryLevel(1);
     definition.getBasicData()->setName(name.c_str());
+    definition.getBasicData()->setId(&id);
     const unsigned material = mScene.mMeshes[mesh]->mMaterialIndex;
     if (material < mScene.mNumMaterials) {
         OvZel::IZelProperty& property = added(definition.getProperties());
         const std::int32_t index = mMaterials.getIndices()[material];
         property.copyFrom(mDocument.getProperties()->getZelObject(index));
+        const CZelUUID propertyId = stableId("property of component", id, "");
+        property.getBasicData()->setId(&propertyId);
     }
-    return *definition.getBasicData()->getId();
 }
 
 CZelUUID CSceneBuilder::componentOf(const CPlace& place)
 {
     if (place.placement)
         return mComponents.at(place.mesh);
-    const CZelUUID id = addDefinition(place.mesh, place.node->mName.C_Str());
+    const CZelUUID id = stableId("moved component", place.id, "");
+    addDefinition(place.mesh, place.node->mName.C_Str(), id);
     mSource.setComponent(id, place.mesh, &place.transform);
     return id;
 }
@@ -132,7 +164,9 @@ CZelUUID CSceneBuilder::layerOf(const std::string& name)
         return known->second;
     OvZel::IZelLayer& layer = added(mDocument.getLayers());
     layer.getBasicData()->setName(name.c_str());
-    return mLayers[name] = *layer.getBasicData()->getId();
+    const CZelUUID id = stableId("layer", {}, name);
+    layer.getBasicData()->setId(&id);
+    return mLayers[name] = id;
 }
 
 void CSceneBuilder::addInstance(const CPlace& place)
@@ -140,6 +174,7 @@ void CSceneBuilder::addInstance(const CPlace& place)
     OvZel::IZelObjectInstance& instance = added(mDocument.getObjectInstances());
     instance.setClass("ModelObject");
     instance.getBasicData()->setName(place.node->mName.C_Str());
+    instance.getBasicData()->setId(&place.id);
     instance.asInternalComponentInstance()->setComponentUUID(componentOf(place));
     const CPlacement placement = place.placement.value_or(CPlacement());
     instance.setTranslation(placement.translation);
@@ -151,6 +186,8 @@ void CSceneBuilder::addInstance(const CPlace& place)
 void CSceneBuilder::addComponents()
 {
     findPlaces();
+    for (unsigned i = 0; i < mScene.mNumMeshes; ++i)
+        ++mNbOfName[mScene.mMeshes[i]->mName.C_Str()];
     std::set<unsigned> moved;
     for (const CPlace& place : mPlaces)
         if (place.placement)
@@ -161,7 +198,8 @@ void CSceneBuilder::addComponents()
         const bool isPlaced = mComponents.count(i) > 0;
         if (mSource.getNbPolygons(i) == 0 || (!isPlaced && moved.count(i) > 0))
             continue;
-        const CZelUUID id = addDefinition(i, nameOf(*mScene.mMeshes[i], i));
+        const CZelUUID id = idOfMesh(i);
+        addDefinition(i, nameOf(*mScene.mMeshes[i], i), id);
         mSource.setComponent(id, i);
         if (isPlaced)
             mComponents[i] = id;

@@ -5,8 +5,10 @@
 #include "tools/CProgressBar.h"
 #include "tools/CSceneBuilder.h"
 #include "tools/CToolDocument.h"
+#include "tools/forEach.h"
 #include "tools/interrupt.h"
 #include "tools/pngFile.h"
+#include "tools/stableId.h"
 
 #include <assimp/Importer.hpp>
 #include <assimp/ProgressHandler.hpp>
@@ -14,6 +16,8 @@
 #include <assimp/scene.h>
 
 namespace tool {
+
+using OvZel::CZelUUID;
 
 namespace {
 
@@ -60,12 +64,32 @@ private:
 
 } // namespace
 
-static void checkReadable(const std::string& model)
+// By the bytes of the file, since many models of different folders have one name. Tells a file that
+// cannot be read from one that is no model, too.
+static CZelUUID idOfModel(const std::string& model, const char* kind)
 {
-    char firstByte = 0;
-    CFileReadStream stream(model); // tells a file that cannot be read from one that is no model
-    stream.read(&firstByte, 1);
-    stream.check();
+    CFileReadStream stream(model);
+    std::string bytes(65536, '\0');
+    CZelUUID id;
+    std::size_t size = bytes.size();
+    while (size == bytes.size()) {
+        size = stream.read(bytes.data(), static_cast<std::uint32_t>(bytes.size()));
+        stream.check();
+        id = stableId(kind, id, bytes.substr(0, size));
+    }
+    return id;
+}
+
+// What a new document has from the start.
+static void identify(OvZel::IZelMgr& document, const CZelUUID& id)
+{
+    document.getObjectDefinition()->getBasicData()->setId(&id);
+    const CZelUUID fileId = stableId("file", id, "");
+    document.getFileInfo()->getBasicData()->setId(&fileId);
+    forEach(*document.getHeliodons(), [](OvZel::IZelHeliodon& heliodon, std::int32_t index) {
+        const CZelUUID heliodonId = stableId("heliodon", {}, "", static_cast<std::uint64_t>(index));
+        heliodon.getBasicData()->setId(&heliodonId);
+    });
 }
 
 static void setPreview(OvZel::IZelMgr& document, const std::string& png)
@@ -92,7 +116,7 @@ void fromModelCommand(const CFromModel& request)
     CToolDocument document;
     if (!request.preview.empty())
         setPreview(*document, request.preview);
-    checkReadable(request.model);
+    identify(*document, idOfModel(request.model, request.isFlat ? "flat model" : "model"));
     CModelImport import(request.model);
     CModelCameras cameras(import.scene()); // which loses its nodes when it gets flat
     if (request.isFlat)
