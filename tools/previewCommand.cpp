@@ -3,12 +3,15 @@
 #include "tools/CFileReadStream.h"
 #include "tools/THeld.h"
 #include "tools/pngFile.h"
+#include "tools/shrinkPicture.h"
 
 #include <zel/IZelMgr.h>
 
+#include <utility>
+
 namespace tool {
 
-void previewCommand(const std::string& file, const std::string& png)
+void previewCommand(const std::string& file, const std::string& png, std::uint32_t side)
 {
     CFileReadStream stream(file);
     THeld<OvZel::IZelImage> image;
@@ -22,7 +25,7 @@ void previewCommand(const std::string& file, const std::string& png)
     if (!pixels)
         throw CToolError(eNotReadable, file + ": no preview picture");
     picture.pixels.assign(pixels, pixels + std::size_t{4} * picture.width * picture.height);
-    writePng(picture, png);
+    writePng(side > 0 ? shrinkPicture(std::move(picture), side) : picture, png);
 }
 
 } // namespace tool
