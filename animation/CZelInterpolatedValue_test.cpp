@@ -89,7 +89,7 @@ TEST(InterpolatedValue, TheDefaultKeyFrameHasTheOwnerOfTheValue)
 TEST(InterpolatedValueXml, FileForm)
 {
     const std::vector<CRow> rows = {
-        required(attribute("Type", "Roll", "Camera.Position"),
+        required(ofKind(attribute("Type", "Roll", "Camera.Position"), "words Channels"),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         flag("Loop", false),
         optional(integer("Nb.Loops", 3, 0)),
@@ -183,7 +183,8 @@ TEST(AnimatedElementXml, FileForm)
         R"(<Interpolated.Value Type="Roll" Path.Id=")" + kNullId + "\"><Nb.Loops>0</Nb.Loops>" +
         elementText("Default.Value", keyFrame(0, 0)) + "<KeyFrames/></Interpolated.Value>";
     const std::vector<CRow> rows = {
-        required(attribute("Type", "Mapping.Node", "Sequence"),
+        required(oneOf(attribute("Type", "Mapping.Node", "Sequence"),
+                       {"Sequence", "Light", "Heliodon", "Object", "Property", "Mapping.Node"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         required(attribute("UUID", kId, kNullId), "CZelXMLGet::GetUUID - NULL ptr for tag UUID"),
         optional(raw("Interpolated.Values", elementText("Interpolated.Values", value),

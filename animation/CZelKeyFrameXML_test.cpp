@@ -18,12 +18,15 @@ std::vector<CRow> keyFrameRows(const std::string& label, const std::vector<CRow>
     std::vector<CRow> rows = {
         integer("Time", 7, 0),
         flag("Visible", true),
-        required(attribute("Type", label, label),
-                 "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
+        oneOf(required(attribute("Type", label, label),
+                       "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
+              {label}),
     };
     rows.insert(rows.end(), values.begin(), values.end());
-    rows.push_back(
-        absentAlsoDrops(attribute("Interpolation.Type", "Bezier", "Linear"), {"AreLocked"}));
+    rows.push_back(absentAlsoDrops(
+        oneOf(attribute("Interpolation.Type", "Bezier", "Linear"),
+              {"Linear", "Square", "OneMinusSquare", "Sinus", "Bezier", "DateInterpolation"}),
+        {"AreLocked"}));
     rows.push_back(flag("AreLocked", true));
     return rows;
 }
@@ -31,11 +34,13 @@ std::vector<CRow> keyFrameRows(const std::string& label, const std::vector<CRow>
 void checkKind(std::int32_t type, const std::string& label, const std::vector<CRow>& values)
 {
     SCOPED_TRACE(label);
-    checkElement("KeyFrame", keyFrameRows(label, values), [&](CTestDocument& document) {
-        auto frame = std::make_unique<CZelKeyFrame>(document.ref());
-        frame->setValueType(type);
-        return frame;
-    });
+    checkElement("KeyFrame", keyFrameRows(label, values),
+                 [&](CTestDocument& document) {
+                     auto frame = std::make_unique<CZelKeyFrame>(document.ref());
+                     frame->setValueType(type);
+                     return frame;
+                 },
+                 {.which = label});
 }
 
 CRow idRow(const std::string& name, const std::string& full)

@@ -3,6 +3,7 @@
 #include "animation/CZelInterpolatedValue.h"
 #include "tests/support/CTestDocument.h"
 #include "tests/support/CTestElement.h"
+#include "tests/support/saveTable.h"
 #include "xml/CZelXMLIO.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@
 #include <iterator>
 #include <set>
 #include <string>
+#include <vector>
 
 using namespace OvZel;
 using namespace ZelTest;
@@ -307,14 +309,18 @@ TEST(Channels, TheTableIsInTheOrderOfTheFormat)
 {
     ASSERT_EQ(std::size(kExpected), 279U);
     std::set<std::int32_t> numbers;
+    std::vector<std::string> words;
     const CZelLabel* label = kChannels;
     for (const auto& [text, channel] : kExpected) {
         ASSERT_NE(label->text, nullptr) << text;
         EXPECT_STREQ(label->text, text);
         EXPECT_EQ(label->value, channel) << text;
         numbers.insert(channel);
+        if (words.empty() || words.back() != text)
+            words.emplace_back(text);
         ++label;
     }
+    saveWords("Channels", words);
     EXPECT_EQ(label->text, nullptr);
     EXPECT_EQ(numbers.size(), 279U);
     EXPECT_EQ(*numbers.begin(), 1);

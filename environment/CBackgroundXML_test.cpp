@@ -30,9 +30,11 @@ std::string elementOf(const CTestElement& target)
 TEST(BackgroundXml, FileForm)
 {
     const std::vector<CRow> rows = {
-        required(attribute("Image.Type", "QTVRCubic", "None"),
+        required(oneOf(attribute("Image.Type", "QTVRCubic", "None"),
+                       {"None", "Stretched", "3D", "Motif", "QTVRCubic"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Image.Type"),
-        required(attribute("Color.Type", "Graduated.Line", "Graduated"),
+        required(oneOf(attribute("Color.Type", "Graduated.Line", "Graduated"),
+                       {"None", "Uniform", "Graduated", "Graduated.Line"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Color.Type"),
         color("Color", {1, 2, 3}, {255, 255, 255}),
         color("Second.Color", {4, 5, 6}, {0, 100, 255}),

@@ -9,7 +9,9 @@ using namespace ZelTest;
 TEST(BackgroundPictureXml, FileForm)
 {
     const std::vector<CRow> rows = {
-        required(attribute("Type", "Picture.2D", "None"),
+        required(oneOf(attribute("Type", "Picture.2D", "None"),
+                       {"None", "User.Gradiant", "Picture.2D", "Movie.3D", "User.Gradiant.4.Colors",
+                        "HDRI"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         text("URL", "sky.png", ""),
         color("First.Color", {1, 2, 3}, {255, 255, 255}),

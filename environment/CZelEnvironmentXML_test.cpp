@@ -33,7 +33,9 @@ std::vector<CRow> cloudRows()
 std::vector<CRow> pictureRows()
 {
     return {
-        required(attribute("Type", "HDRI", "None"),
+        required(oneOf(attribute("Type", "HDRI", "None"),
+                       {"None", "User.Gradiant", "Picture.2D", "Movie.3D", "User.Gradiant.4.Colors",
+                        "HDRI"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         text("URL", "sky.png", ""),
         color("First.Color", {1, 2, 3}, {255, 255, 255}),

@@ -115,8 +115,9 @@ std::vector<CRow> heliodonRows()
         optional(raw("Clouds", clouds, newClouds)),
         optional(raw("Fog", fog, newFog)),
         attribute("UUID", kFile, kMade),
-        attribute("Placement.Kind", "Date.And.Place", "Manual"),
-        attribute("Color.Type", "User", "Automatic"),
+        oneOf(attribute("Placement.Kind", "Date.And.Place", "Manual"),
+              {"Manual", "45.Degree", "Date.And.Place"}),
+        oneOf(attribute("Color.Type", "User", "Automatic"), {"Automatic", "User"}),
         optional(raw("UI.Value", "<UI.Value>11</UI.Value>", "")),
         optional(real("Saturation", 12.5, 0.5)),
     };

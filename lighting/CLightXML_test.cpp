@@ -33,7 +33,7 @@ std::vector<CRow> lightRows()
     return {
         required(raw("Name", "<Name en=\"Lamp\"/>", "<Name en=\"\"/>"),
                  "CZelXMLGet::CZelXMLGet - NULL ptr"),
-        required(attribute("Type", "Parallel", "Point"),
+        required(oneOf(attribute("Type", "Parallel", "Point"), {"Point", "Spot", "Parallel"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         flag("Active", true),
         color("Color", {1, 2, 3}, {255, 255, 255}),
@@ -44,7 +44,7 @@ std::vector<CRow> lightRows()
         xyz("Target", {4, 5, 6}, {0, 0, 0}),
         real("Cone.Angle", 5.5, 20.0),
         real("Sharpness", 0.6, 0.5),
-        required(attribute("Shadow.Type", "Soft", "Traced"),
+        required(oneOf(attribute("Shadow.Type", "Soft", "Traced"), {"None", "Traced", "Soft"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Shadow.Type"),
         real("Shadow.Power", 0.7, 0.1),
         integer("Map.Size", 8, 0),
@@ -66,7 +66,9 @@ std::vector<CRow> lightRows()
         attribute("UUID", kFile, kMade),
         required(attribute("Object.Id", kObject, kNull),
                  "CZelXMLGet::GetUUID - NULL ptr for tag Object.Id"),
-        absentAlsoDrops(attribute("Target.type", "On.Object", "Fixed.Vertex"), {"Object.Id"}),
+        absentAlsoDrops(oneOf(attribute("Target.type", "On.Object", "Fixed.Vertex"),
+                              {"Fixed.Vertex", "On.Object"}),
+                        {"Object.Id"}),
         attribute("IES", kIES, kNull),
         optional(text("IES.Url", "lamp.ies", "")),
     };

@@ -9,16 +9,16 @@ using namespace ZelTest;
 
 TEST(SkylightXml, FileForm)
 {
-    checkElement("Sky.Light",
-                 {flag("Used", false), real("Factor", 1.5, 0.75),
-                  color("Color", {1, 2, 3}, {255, 255, 255}),
-                  attribute("Sky.Type", "User", "Automatic"), flag("Background", false),
-                  real("Pollution", 2.5, 0.2), flag("Sky.Mix.Color.Flag", false),
-                  color("Sky.Mix.Color", {4, 5, 6}, {255, 255, 255}), flag("Power.Flag", false),
-                  flag("Sky.Color.Flag", false), optional(real("Sky.Saturation", 3.5, 0.5)),
-                  attribute("Sky.Kind", "Vendralis5Sky", "Physical"),
-                  optional(real("Sky.Exposure", 4.5, 0.0))},
-                 [](CTestDocument&) { return std::make_unique<CSkylight>(); });
+    checkElement(
+        "Sky.Light",
+        {flag("Used", false), real("Factor", 1.5, 0.75), color("Color", {1, 2, 3}, {255, 255, 255}),
+         oneOf(attribute("Sky.Type", "User", "Automatic"), {"Automatic", "User"}),
+         flag("Background", false), real("Pollution", 2.5, 0.2), flag("Sky.Mix.Color.Flag", false),
+         color("Sky.Mix.Color", {4, 5, 6}, {255, 255, 255}), flag("Power.Flag", false),
+         flag("Sky.Color.Flag", false), optional(real("Sky.Saturation", 3.5, 0.5)),
+         oneOf(attribute("Sky.Kind", "Vendralis5Sky", "Physical"), {"Physical", "Vendralis5Sky"}),
+         optional(real("Sky.Exposure", 4.5, 0.0))},
+        [](CTestDocument&) { return std::make_unique<CSkylight>(); });
 }
 
 TEST(SkylightXml, TheLabelsStandForTheirNumbers)

@@ -22,8 +22,10 @@ TEST(LensFlareXml, FileForm)
 {
     checkElement("Lens.Flare",
                  {flag("Used", false),
-                  required(attribute("Type", "Halo2", "LensFlare1"),
-                           "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
+                  alsoReads(oneOf(required(attribute("Type", "Halo2", "LensFlare1"),
+                                           "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
+                                  {"LensFlare1", "LensFlare2", "Halo1", "Halo2"}),
+                            "Standard", "LensFlare1"),
                   real("Size", 2.5, 1.0), optional(real("Intensity", 3.5, 1.0))},
                  kNew);
 }

@@ -185,7 +185,9 @@ TEST(PlantSetUpXml, FileForm)
                                 "CZelXMLGet::CZelXMLGet - NULL ptr");
     const CRow end = required(raw("EndTime", date("EndTime", 9), plainDate("EndTime")),
                               "CZelXMLGet::CZelXMLGet - NULL ptr");
-    const CRow color = required(attribute("Color", "DarkBlue", "Undefined"),
+    const CRow color = required(oneOf(attribute("Color", "DarkBlue", "Undefined"),
+                                      {"Undefined", "White", "Red", "Orange", "Rose", "Purple",
+                                       "LightBlue", "DarkBlue", "Yellow", "Brown"}),
                                 "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Color");
     const CRow id = required(
         attribute("Id", "FEDCBA9876543210FEDCBA9876543210", "0123456789ABCDEF0123456789ABCDEF"),

@@ -59,7 +59,7 @@ TEST(Take, FileForm)
         integer("FPS", 25, 0),
         text("Name", "walk", ""),
         real("Z.Min", 1.5, 0),
-        required(attribute("Type", "OnPath", "Predefined"),
+        required(oneOf(attribute("Type", "OnPath", "Predefined"), {"Predefined", "OnPath"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         real("Z.Angle", -2.5, 0),
     };

@@ -36,8 +36,9 @@ std::vector<CRow> textureRows()
 
 std::vector<CRow> infoRows()
 {
-    const CRow kind = required(attribute("Kind", "Multifaces", "Uniface"),
-                               "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Kind");
+    const CRow kind = required(
+        oneOf(attribute("Kind", "Multifaces", "Uniface"), {"Flat", "Uniface", "Multifaces"}),
+        "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Kind");
     return {raw("Names", "<Names en=\"Tree\" de=\"Baum\"/>", "<Names/>"),
             part("Behavior", {kind, integer("NbFaces", 6, 0), flag("Animate", false),
                               real("Scale", 2.5, 1.0), xyz("Normal", {1, 2, 3}, {0, 1, 0})})};

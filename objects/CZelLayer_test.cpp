@@ -79,7 +79,7 @@ TEST(ExternalDefinition, FileForm)
     const std::vector<CRow> rows = {
         attribute("UUID", kFullId, kOwnIdText),
         optional(text("URL", "chair.zel", "")),
-        optional(raw("Properties", "<Properties/>", "<Properties/>")),
+        ofKind(optional(raw("Properties", "<Properties/>", "<Properties/>")), "list Property"),
     };
     checkElement("External.Definition", rows, makeKnown<CZelExternalDefinition>);
 

@@ -82,10 +82,12 @@ private:
 void checkData(const char* text, const std::vector<CRow>& rows, const CForm& form = {})
 {
     SCOPED_TRACE(text);
+    CForm named = form;
+    named.which = text;
     checkElement(
         "Instance.Data", rows,
         [text](CTestDocument& document) { return std::make_unique<CDataOnly>(document, text); },
-        form);
+        named);
 }
 
 /// A required attribute.
@@ -102,7 +104,8 @@ CRow label(const std::string& name, const char* full, const char* fresh)
 
 CRow emptyList(const std::string& name)
 {
-    return optional(raw(name, "<" + name + "/>", "<" + name + "/>"));
+    const CRow row = optional(raw(name, "<" + name + "/>", "<" + name + "/>"));
+    return ofKind(row, name == "Lights" ? "list Light" : "list Property");
 }
 
 std::string box(double minimum, double maximum)
@@ -177,16 +180,19 @@ TEST(ObjectInstanceXml, FileForm)
         integer("Triangle.Id", 12, -1),
         xyz("Anchor.Position", {1, 3, 5}, {0, 0, 0}),
         xyz("Up.Vector", {1, 4, 5}, {0, 0, 1}),
-        label("Placement.Property", "Perpendicular", "Vertical"),
+        oneOf(label("Placement.Property", "Perpendicular", "Vertical"),
+              {"Perpendicular", "Vertical"}),
         real("Initial.Angle", 1.25, 0.0),
         absentGives(raw("Bounding.Box", box(-2, 3), box(-1, 1)), insideOut()),
         integer("UIValue", 5, -1),
         flag("Coordinates.Locked", false),
         flag("Scale.Locked", false),
         optional(xyz("Current.Path.Direction", {6, 5, 4}, {0, 0, 0})),
-        attribute("Animation.Behavior", "FollowOnPathXY", "Normal"),
+        oneOf(attribute("Animation.Behavior", "FollowOnPathXY", "Normal"),
+              {"Normal", "FollowOnPath", "FollowOnPathXY"}),
         flag("Target", false),
-        optional(real("Transparency", 0.25, 0.0)),
+        alsoReads(optional(real("Transparency", 0.25, 0.0)), "<Tansparency>0.5</Tansparency>",
+                  "<Transparency>0.500000</Transparency>"),
         attribute("Layer.Id", kThree, kNull),
         flag("Materials.Differents", false),
         flag("Visible", true),
@@ -485,17 +491,21 @@ TEST(InstanceDataXml, Billboard)
                       "Current.Config",
                       "Overloaded.Properties"};
     form.guardedFrom = "Render.Type";
-    checkData("Billboard",
-              joined(zelObjectRows(),
-                     {flag("Orient.With.Camera", false), flag("Vertical.Flip", false),
-                      flag("Horizontal.Flip", false), label("Render.Type", "Normal", "Display"),
-                      real("Shininess", 0.25, 0.5), real("Roughness", 2, 700),
-                      real("Brightness", 3, 0), real("Contrast", 4, 1),
-                      label("Kind", "Multiface", "Uniface"), real("Definition.Size", 5, 100),
-                      text("Definition.Name", "Oak", ""), integer("Current.Config", 6, 0),
-                      raw("Overloaded.Properties", "<Overloaded.Properties/>",
-                          "<Overloaded.Properties/>")}),
-              form);
+    checkData(
+        "Billboard",
+        joined(zelObjectRows(),
+               {flag("Orient.With.Camera", false), flag("Vertical.Flip", false),
+                flag("Horizontal.Flip", false),
+                oneOf(label("Render.Type", "Normal", "Display"), {"Normal", "Display"}),
+                real("Shininess", 0.25, 0.5), real("Roughness", 2, 700), real("Brightness", 3, 0),
+                real("Contrast", 4, 1),
+                oneOf(label("Kind", "Multiface", "Uniface"), {"Flat", "Uniface", "Multiface"}),
+                real("Definition.Size", 5, 100), text("Definition.Name", "Oak", ""),
+                integer("Current.Config", 6, 0),
+                ofKind(raw("Overloaded.Properties", "<Overloaded.Properties/>",
+                           "<Overloaded.Properties/>"),
+                       "list Property")}),
+        form);
 }
 
 TEST(InstanceDataXml, ABillboardRejectsTheOtherSpellingOfItsKind)

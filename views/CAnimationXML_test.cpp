@@ -16,7 +16,8 @@ std::vector<CRow> keyRows()
     return {
         real("Pitch", 100.5, 0),
         real("Focal", 2.5, 0),
-        required(attribute("Key.Type", "Target", "Timing"),
+        required(oneOf(attribute("Key.Type", "Target", "Timing"),
+                       {"Timing", "Path", "Local", "Global", "Target"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Key.Type"),
         integer("Fading.Duration", -3, 0),
         integer("Fading.Nb.Images", -4, 0),

@@ -21,7 +21,7 @@ std::vector<CRow> cameraRows()
         real("Roll", 1.5, 0.00001),
         real("Focal", 70.5, 50.0),
         attribute("Object.Id", "000102030405060708090A0B0C0D0E0F", kNullId),
-        attribute("Target.type", "On.Object", "Fixed.Vertex"),
+        oneOf(attribute("Target.type", "On.Object", "Fixed.Vertex"), {"Fixed.Vertex", "On.Object"}),
         viewInfoRow(),
         optionsRow(),
         optional(raw("InsertionObject", "<InsertionObject/>", "<InsertionObject/>")),

@@ -53,7 +53,7 @@ std::vector<CRow> rowsOfInsertion()
         list("AxesPositions", fullState(), freshState()),
         list("PerpectiveToolPositions", pairs(6, 1.5, 2.5, 1), pairs(6, 0, 0, 0)),
         list("ReperePositions", triples(4, 3.25), noTriple + noTriple + noTriple + noTriple),
-        attribute("SizeAxis", "ZAxis", "XAxis"),
+        oneOf(attribute("SizeAxis", "ZAxis", "XAxis"), {"XAxis", "YAxis", "ZAxis"}),
         flag("AxesVisibility", false),
         flag("ModelVisibility", false),
         flag("PerpectiveToolVisibility", false),

@@ -20,7 +20,7 @@ TEST(ParallelViewXml, FileForm)
     const std::vector<CRow> rows = {
         required(raw("Name", R"(<Name en="North"/>)", R"(<Name en=""/>)"),
                  "CZelXMLGet::CZelXMLGet - NULL ptr"),
-        required(attribute("PV.Type", "Axono", "Plan"),
+        required(oneOf(attribute("PV.Type", "Axono", "Plan"), {"Front", "Plan", "Axono"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag PV.Type"),
         integer("View.Flags", 5, 2),
         real("North.Angle", 1.5, 0.0),

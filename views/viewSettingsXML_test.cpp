@@ -45,7 +45,8 @@ TEST(DepthOfFieldXml, FileForm)
 {
     const std::vector<CRow> rows = {
         flag("Used", false),
-        required(attribute("Type", "FromDistance", "FromPoint"),
+        required(oneOf(attribute("Type", "FromDistance", "FromPoint"),
+                       {"FromPoint", "FromTarget", "FromInfinity", "FromDistance"}),
                  "CZelXMLGet::GetAttributeLabel - NULL ptr for tag Type"),
         xyz("Clearness.Point", {1, 2, 3}, {0, 0, 0}),
         real("Clearness.Dist.Inv", 4.5, 0.0),

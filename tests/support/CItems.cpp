@@ -8,9 +8,10 @@ namespace ZelTest {
 
 namespace {
 
+const std::string kNothing;
+
 const std::string& textOf(const CRow& row, CItems::EState state)
 {
-    static const std::string kNothing;
     switch (state) {
     case CItems::EState::Full:
         return row.full;
@@ -19,6 +20,7 @@ const std::string& textOf(const CRow& row, CItems::EState state)
     case CItems::EState::Absent:
         return row.absent;
     case CItems::EState::Missing:
+    case CItems::EState::Changed:
         break;
     }
     return kNothing;
@@ -54,6 +56,15 @@ void CItems::gather(const std::vector<CRow>& rows, const std::string& prefix,
     }
 }
 
+const std::string& CItems::itemText(const std::string& path) const
+{
+    const auto item = std::find_if(mItems.begin(), mItems.end(),
+                                   [&](const CItem& each) { return each.path == path; });
+    if (item == mItems.end())
+        return kNothing;
+    return item->state == EState::Changed ? item->changed : textOf(*item->row, item->state);
+}
+
 CItems::EState CItems::state(const std::string& path) const
 {
     const auto item = std::find_if(mItems.begin(), mItems.end(),
@@ -78,6 +89,12 @@ void CItems::set(const std::string& path, EState state)
     EXPECT_TRUE(found) << path;
 }
 
+void CItems::changeAt(std::size_t place, const std::string& text)
+{
+    mItems[place].state = EState::Changed;
+    mItems[place].changed = text;
+}
+
 void CItems::setFrom(std::size_t place, EState state)
 {
     for (std::size_t i = place; i < size(); ++i)
@@ -90,14 +107,15 @@ std::string CItems::element(const std::string& tag, const std::vector<CRow>& row
     std::string attributes;
     std::string content;
     for (const CRow& row : rows) {
-        const EState now = state(prefix + row.name);
+        const std::string path = prefix + row.name;
+        const std::string& text = itemText(path);
         if (!row.rows.empty()) {
-            if (now != EState::Missing)
-                content += element(row.name, row.rows, prefix + row.name + "/");
+            if (state(path) != EState::Missing)
+                content += element(row.name, row.rows, path + "/");
         } else if (!row.isAttribute) {
-            content += textOf(row, now);
-        } else if (!textOf(row, now).empty()) {
-            attributes += " " + row.name + "=\"" + textOf(row, now) + "\"";
+            content += text;
+        } else if (!text.empty()) {
+            attributes += " " + row.name + "=\"" + text + "\"";
         }
     }
     return content.empty() ? "<" + tag + attributes + "/>"

@@ -15,12 +15,14 @@ struct CForm {
     std::string guardedFrom = {};
     /// Whether identifiers in the file replace those of the object.
     bool getUUID = true;
+    /// Which of the elements of this tag it is; empty if all are alike.
+    std::string which = {};
 };
 
 /// The single items of an element, those of parts included, with their state in one file.
 class CItems {
 public:
-    enum class EState { Full, Fresh, Absent, Missing };
+    enum class EState { Full, Fresh, Absent, Missing, Changed };
 
     CItems(std::string tag, const std::vector<CRow>& rows, const CForm& form);
 
@@ -35,6 +37,8 @@ public:
     /// The item and, if it is a part, all in it.
     void set(const std::string& path, EState state);
     void setAt(std::size_t place, EState state) { set(path(place), state); }
+    /// The item has this text, whatever its row says.
+    void changeAt(std::size_t place, const std::string& text);
     /// This item and all that are read behind it.
     void setFrom(std::size_t place, EState state);
     std::string text() const { return "<E>" + element(mTag, mRows, "") + "</E>"; }
@@ -44,12 +48,14 @@ private:
         std::string path;
         const CRow* row;
         EState state;
+        std::string changed = {};
     };
 
     void gather(const std::vector<CRow>& rows, const std::string& prefix,
                 const std::vector<std::string>& order);
     std::string element(const std::string& tag, const std::vector<CRow>& rows,
                         const std::string& prefix) const;
+    const std::string& itemText(const std::string& path) const;
     EState state(const std::string& path) const;
 
     std::string mTag;

@@ -7,6 +7,12 @@
 /// The file form of a class, stated a second time: a row for each item of its element.
 namespace ZelTest {
 
+/// Another text that is read for an item, and what is then written.
+struct COldForm {
+    std::string read;
+    std::string written;
+};
+
 /// One item: a child element or an attribute, as the texts that stand for it in the file. An empty
 /// text means that the item isn't there.
 struct CRow {
@@ -21,6 +27,9 @@ struct CRow {
     bool isAttribute = false;
     std::vector<CRow> rows;             ///< the items of a part
     std::vector<std::string> readOrder; ///< of the part; empty if it is that of the rows
+    std::string kind;                   ///< what the value is; empty: its texts show it
+    std::vector<std::string> words;     ///< all words that it may have
+    std::vector<COldForm> oldForms;
 };
 
 inline std::string elementText(const std::string& name, const std::string& content)
@@ -39,19 +48,25 @@ inline CRow raw(const std::string& name, const std::string& full, const std::str
     return row;
 }
 
+inline CRow ofKind(CRow row, const std::string& kind)
+{
+    row.kind = kind;
+    return row;
+}
+
 inline CRow text(const std::string& name, const std::string& full, const std::string& fresh)
 {
-    return raw(name, elementText(name, full), elementText(name, fresh));
+    return ofKind(raw(name, elementText(name, full), elementText(name, fresh)), "text");
 }
 
 inline CRow real(const std::string& name, double full, double fresh)
 {
-    return text(name, std::to_string(full), std::to_string(fresh));
+    return ofKind(text(name, std::to_string(full), std::to_string(fresh)), "real");
 }
 
 inline CRow integer(const std::string& name, long long full, long long fresh)
 {
-    return text(name, std::to_string(full), std::to_string(fresh));
+    return ofKind(text(name, std::to_string(full), std::to_string(fresh)), "integer");
 }
 
 /// An empty element by presence. The full file has what a new object hasn't; absence is false.
@@ -59,7 +74,7 @@ inline CRow flag(const std::string& name, bool fresh)
 {
     CRow row = raw(name, fresh ? "" : elementText(name, ""), fresh ? elementText(name, "") : "");
     row.message.clear();
-    return row;
+    return ofKind(row, "flag");
 }
 
 inline CRow color(const std::string& name, std::array<int, 3> full, std::array<int, 3> fresh)
@@ -70,7 +85,7 @@ inline CRow color(const std::string& name, std::array<int, 3> full, std::array<i
     };
     CRow row = raw(name, textOf(full), textOf(fresh));
     row.message = "CZelXMLGet::CZelXMLGet - NULL ptr";
-    return row;
+    return ofKind(row, "colour");
 }
 
 inline CRow xyz(const std::string& name, std::array<double, 3> full, std::array<double, 3> fresh)
@@ -81,7 +96,7 @@ inline CRow xyz(const std::string& name, std::array<double, 3> full, std::array<
     };
     CRow row = raw(name, textOf(full), textOf(fresh));
     row.message = "CZelXMLGet::CZelXMLGet - NULL ptr";
-    return row;
+    return ofKind(row, "vector");
 }
 
 /// An optional attribute; absent it keeps the value of the object.
@@ -127,6 +142,20 @@ inline CRow absentGives(CRow row, const std::string& written)
 inline CRow required(CRow row, const std::string& message)
 {
     row.message = message;
+    return row;
+}
+
+/// Nothing but these words is read or written.
+inline CRow oneOf(CRow row, std::vector<std::string> words)
+{
+    row.words = std::move(words);
+    return ofKind(std::move(row), "word");
+}
+
+/// The text `read` of older files is taken for `written`. For an element they are whole elements.
+inline CRow alsoReads(CRow row, const std::string& read, const std::string& written)
+{
+    row.oldForms.push_back({read, written});
     return row;
 }
 

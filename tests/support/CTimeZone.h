@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/support/environment.h"
+
 #include <cstdlib>
-#include <ctime>
 #include <optional>
 #include <string>
 
@@ -18,22 +19,13 @@ public:
     {
         if (const char* before = std::getenv("TZ"))
             mBefore = before;
-        set(zone);
+        setTimeZone(zone);
     }
-    ~CTimeZone() { set(mBefore ? mBefore->c_str() : nullptr); }
+    ~CTimeZone() { setTimeZone(mBefore ? mBefore->c_str() : nullptr); }
     CTimeZone(const CTimeZone&) = delete;
     CTimeZone& operator=(const CTimeZone&) = delete;
 
 private:
-    static void set(const char* zone)
-    {
-        if (zone != nullptr)
-            setenv("TZ", zone, 1);
-        else
-            unsetenv("TZ");
-        tzset();
-    }
-
     std::optional<std::string> mBefore;
 };
 

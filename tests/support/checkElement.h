@@ -4,6 +4,7 @@
 #include "tests/support/CItems.h"
 #include "tests/support/CTestDocument.h"
 #include "tests/support/CTestElement.h"
+#include "tests/support/saveTable.h"
 #include "xml/CZelXMLAdd.h"
 #include "xml/CZelXMLGet.h"
 #include "xml/CZelXMLIO.h"
@@ -64,9 +65,47 @@ private:
     OvZel::CZelXMLIO mIo;
 };
 
+/// Checks that the full file with this text in the place of an item is read, and what is written.
+template <class Subject>
+void checkChanged(CItems& items, std::size_t place, const COldForm& form, Subject subject)
+{
+    SCOPED_TRACE(items.path(place) + " as " + form.read);
+    items.setAll(CItems::EState::Full);
+    items.changeAt(place, form.read);
+    auto reader = subject();
+    EXPECT_EQ(reader.read(items.text()), "");
+    items.changeAt(place, form.written);
+    EXPECT_EQ(reader.write(), items.text());
+}
+
+/// Checks that each word of an item comes back, that no other is read, and its old forms.
+template <class Subject>
+void checkWords(CItems& items, std::size_t place, Subject subject)
+{
+    const CRow& row = items.row(place);
+    const auto asItem = [&](const std::string& word) {
+        return row.isAttribute ? word : elementText(row.name, word);
+    };
+    for (const std::string& word : row.words)
+        checkChanged(items, place, {asItem(word), asItem(word)}, subject);
+    for (const COldForm& form : row.oldForms)
+        checkChanged(items, place, form, subject);
+    if (row.words.empty())
+        return;
+    items.setAll(CItems::EState::Full);
+    items.changeAt(place, asItem("No.Such.Word"));
+    auto reader = subject();
+    const std::string failure = reader.read(items.text());
+    if (!row.message.empty() && !items.isSilent(place)) {
+        EXPECT_NE(failure, "") << items.path(place);
+    }
+    EXPECT_EQ(reader.write().find("No.Such.Word"), std::string::npos) << items.path(place);
+}
+
 /// Checks that a new object writes the new values, that a full file comes back, that a file without
 /// an item gives that item's outcome, and that after a failure what was read before holds the
-/// file's values and the rest those of a new object.
+/// file's values and the rest those of a new object. The pages of the format are made of the same
+/// tables.
 ///
 /// `make` gets the test's document and gives a smart pointer to a new object.
 template <class Make>
@@ -75,6 +114,7 @@ void checkElement(const std::string& tag, const std::vector<CRow>& rows, Make ma
                   const CForm& form = {})
 {
     using EState = CItems::EState;
+    saveTable(tag, rows, form);
     CTestDocument document;
     const auto subject = [&] {
         return CSubject<std::invoke_result_t<Make, CTestDocument&>>(document, tag, form,
@@ -107,6 +147,7 @@ void checkElement(const std::string& tag, const std::vector<CRow>& rows, Make ma
             items.setFrom(i, EState::Fresh);
         }
         EXPECT_EQ(reader.write(), items.text());
+        checkWords(items, i, subject);
     }
     EXPECT_EQ(document.takeMessages(), std::vector<std::string>());
 }
