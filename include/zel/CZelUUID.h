@@ -11,7 +11,7 @@ namespace OvZel {
 /// A plain value without inner structure: compare it by value, never by address. The text form is
 /// 32 hexadecimal digits without separators, bytes in storage order, high nibble first.
 struct CZelUUID {
-    std::uint8_t bytes[16] = {};
+    std::uint8_t bytes[16] = {}; ///< in storage order
 
     /// The null identifier, all bytes zero.
     constexpr CZelUUID() = default;
@@ -50,6 +50,7 @@ struct CZelUUID {
         buffer[32] = '\0';
     }
 
+    /// Whether all bytes are zero.
     constexpr bool isNull() const
     {
         for (const std::uint8_t byte : bytes)
@@ -68,6 +69,7 @@ struct CZelUUID {
     }
 };
 
+/// By value, as CZelUUID::compare tells.
 constexpr bool operator==(const CZelUUID& a, const CZelUUID& b)
 {
     return a.compare(b) == 0;

@@ -17,9 +17,9 @@ struct CZelVertex {
 
     /// Index into the points of the mesh; never checked.
     std::int32_t pointIndex = 0;
-    std::uint32_t flags = 0;
-    float u = 0.0F;
-    float v = 0.0F;
+    std::uint32_t flags = 0; ///< kFlagI, kFlagM or both; 0 at first
+    float u = 0.0F;          ///< across the texture, 0.0 at first
+    float v = 0.0F;          ///< along the texture, 0.0 at first
 };
 
 static_assert(sizeof(CZelVertex) == 16, "vertices cross the boundary as 16 bytes");

@@ -9,7 +9,8 @@ namespace OvZel {
 class ITable;
 class ITCENode;
 
-/// The node of a checker pattern in space that blends two sub-trees: its first and second child.
+/// The node of a checker pattern in space that blends two sub-trees: its first and second child. A
+/// tree in which it lacks one of them cannot be saved.
 ///
 /// Part of its node, good as long as that. Values are stored as they are given; one thread at a
 /// time.
@@ -27,8 +28,10 @@ public:
     /// All three axes are 0, 0, 1 in a new node: set them before the pattern is used.
     virtual const CZelPoint& getXAxis() const = 0;
     virtual void setXAxis(const CZelPoint& vector) = 0;
+    /// 0, 0, 1 in a new node.
     virtual const CZelPoint& getYAxis() const = 0;
     virtual void setYAxis(const CZelPoint& vector) = 0;
+    /// 0, 0, 1 in a new node.
     virtual const CZelPoint& getZAxis() const = 0;
     virtual void setZAxis(const CZelPoint& vector) = 0;
     /// 0, 0, 0 in a new node.
@@ -51,8 +54,10 @@ public:
     /// long as the node unless a reference is kept.
     virtual const ITable* getTable1() const = 0;
     virtual ITable* getTable1() = 0;
+    /// As getTable1.
     virtual const ITable* getTable2() const = 0;
     virtual ITable* getTable2() = 0;
+    /// As getTable1.
     virtual const ITable* getTable3() const = 0;
     virtual ITable* getTable3() = 0;
 

@@ -23,15 +23,19 @@ public:
     /// 100, 100, 100 in a new node. Every other colour of a new leaf is black.
     virtual CZelColor getDiffuse() const = 0;
     virtual void setDiffuse(const CZelColor& color) = 0;
+    /// Black in a new node.
     virtual CZelColor getTransparent() const = 0;
     virtual void setTransparent(const CZelColor& color) = 0;
+    /// Black in a new node.
     virtual CZelColor getSpecular() const = 0;
     virtual void setSpecular(const CZelColor& color) = 0;
+    /// Black in a new node.
     virtual CZelColor getReflection() const = 0;
     virtual void setReflection(const CZelColor& color) = 0;
     /// 0.0 in a new node; not limited.
     virtual double getReflectionLimit() const = 0;
     virtual void setReflectionLimit(double limit) = 0;
+    /// Black in a new node.
     virtual CZelColor getNeonColor() const = 0;
     virtual void setNeonColor(const CZelColor& color) = 0;
     /// 0.0 in a new node. Below that 0.0 is stored; nothing warns here or at the two below.
@@ -43,6 +47,7 @@ public:
     /// 1000.0 in a new node; kept within 0.0 to 1000.0.
     virtual double getGlossy() const = 0;
     virtual void setGlossy(double glossy) = 0;
+    /// Black in a new node.
     virtual CZelColor getEmittingColor() const = 0;
     virtual void setEmittingColor(const CZelColor& color) = 0;
     /// 0.0 in a new node; not limited, like everything below.
@@ -54,6 +59,7 @@ public:
     /// 1000 in a new node, like the other three numbers of glossiness.
     virtual std::int32_t getGlossyReflectionSampling() const = 0;
     virtual void setGlossyReflectionSampling(std::int32_t sampling) = 0;
+    /// 1000 in a new node.
     virtual std::int32_t getGlossyRefractionSampling() const = 0;
     virtual void setGlossyRefractionSampling(std::int32_t sampling) = 0;
     /// 0.0 in a new node.
@@ -62,8 +68,10 @@ public:
     /// 1.0 in a new node.
     virtual double getReflectance() const = 0;
     virtual void setReflectance(double reflectance) = 0;
+    /// 1000 in a new node.
     virtual std::int32_t getGlossyReflectionShininess() const = 0;
     virtual void setGlossyReflectionShininess(std::int32_t shininess) = 0;
+    /// 1000 in a new node.
     virtual std::int32_t getGlossyRefractionShininess() const = 0;
     virtual void setGlossyRefractionShininess(std::int32_t shininess) = 0;
     /// 0 general (a new node), 1 bulb, 2 plane. Another number is stored, but cannot be saved.

@@ -47,10 +47,13 @@ public:
     /// -1, 0, 0 and the Y axis 0, -1, 0. None is normalised or checked.
     virtual const CZelPoint& getNormal() const = 0;
     virtual void setNormal(const CZelPoint& vector) = 0;
+    /// 0, 0, 0 in a new node.
     virtual const CZelPoint& getOrigin() const = 0;
     virtual void setOrigin(const CZelPoint& vector) = 0;
+    /// -1, 0, 0 in a new node.
     virtual const CZelPoint& getXAxis() const = 0;
     virtual void setXAxis(const CZelPoint& vector) = 0;
+    /// 0, -1, 0 in a new node.
     virtual const CZelPoint& getYAxis() const = 0;
     virtual void setYAxis(const CZelPoint& vector) = 0;
     /// 0.0 in a new node; not limited.
@@ -59,22 +62,26 @@ public:
     /// Size of the image, 1.0 by 1.0 in a new node; not limited.
     virtual double getHeight() const = 0;
     virtual void setHeight(double value) = 0;
+    /// 1.0 in a new node; not limited.
     virtual double getWidth() const = 0;
     virtual void setWidth(double value) = 0;
     /// 0.0 in a new node, like the relief; not limited.
     virtual double getBump() const = 0;
     virtual void setBump(double value) = 0;
+    /// 0.0 in a new node; not limited.
     virtual double getRelief() const = 0;
     virtual void setRelief(double value) = 0;
     /// The centre of the image, 0.5 and 0.5 in a new node; kept within 0.0 to 1.0. Nothing warns
     /// here or at any other limit.
     virtual double getXCenter() const = 0;
     virtual void setXCenter(double value) = 0;
+    /// 0.5 in a new node; kept within 0.0 to 1.0.
     virtual double getYCenter() const = 0;
     virtual void setYCenter(double value) = 0;
     /// 0.0 in a new node; not limited.
     virtual double getXDelta() const = 0;
     virtual void setXDelta(double value) = 0;
+    /// 0.0 in a new node; not limited.
     virtual double getYDelta() const = 0;
     virtual void setYDelta(double value) = 0;
     /// 1000.0 in a new node; kept within 0.0 to 1000.0.
@@ -83,31 +90,40 @@ public:
     /// False in a new node, like every yes or no below but the visibility.
     virtual bool getXRepeat() const = 0;
     virtual void setXRepeat(bool flag) = 0;
+    /// False in a new node.
     virtual bool getYRepeat() const = 0;
     virtual void setYRepeat(bool flag) = 0;
     /// Black in a new node, like every colour below but that of the mix.
     virtual CZelColor getSpecular() const = 0;
     virtual void setSpecular(const CZelColor& color) = 0;
+    /// Black in a new node.
     virtual CZelColor getTransparent() const = 0;
     virtual void setTransparent(const CZelColor& color) = 0;
+    /// Black in a new node.
     virtual CZelColor getReflection() const = 0;
     virtual void setReflection(const CZelColor& color) = 0;
     /// 0.0 in a new node; not limited.
     virtual double getReflectionLimit() const = 0;
     virtual void setReflectionLimit(double value) = 0;
+    /// False in a new node.
     virtual bool getCutSet() const = 0;
     virtual void setCutSet(bool flag) = 0;
     /// Without its flag a cut-out colour is not saved.
     virtual bool getCutOut1Flag() const = 0;
     virtual void setCutOut1Flag(bool flag) = 0;
+    /// Black in a new node; saved only while its flag is set.
     virtual CZelColor getCutOut1Color() const = 0;
     virtual void setCutOut1Color(const CZelColor& color) = 0;
+    /// Without its flag the second colour is not saved either; false in a new node.
     virtual bool getCutOut2Flag() const = 0;
     virtual void setCutOut2Flag(bool flag) = 0;
+    /// Black in a new node; saved only while its flag is set.
     virtual CZelColor getCutOut2Color() const = 0;
     virtual void setCutOut2Color(const CZelColor& color) = 0;
+    /// False in a new node.
     virtual bool getXInvert() const = 0;
     virtual void setXInvert(bool flag) = 0;
+    /// False in a new node.
     virtual bool getYInvert() const = 0;
     virtual void setYInvert(bool flag) = 0;
     /// 0 planetary, 1 orthogonal, 2 vertical, 3 spherical, 4 cylindrical about Y, 5 cylindrical
@@ -118,6 +134,7 @@ public:
     /// True in a new node.
     virtual bool getVisible() const = 0;
     virtual void setVisible(bool flag) = 0;
+    /// False in a new node.
     virtual bool getMixFlag() const = 0;
     virtual void setMixFlag(bool flag) = 0;
     /// 127, 127, 127 in a new node.
@@ -126,18 +143,25 @@ public:
     /// 0.0 in a new node; kept within 0.0 to 1.0.
     virtual double getMixValue() const = 0;
     virtual void setMixValue(double value) = 0;
+    /// False in a new node.
     virtual bool getCutAlpha() const = 0;
     virtual void setCutAlpha(bool flag) = 0;
+    /// False in a new node.
     virtual bool getXMirror() const = 0;
     virtual void setXMirror(bool flag) = 0;
+    /// False in a new node.
     virtual bool getYMirror() const = 0;
     virtual void setYMirror(bool flag) = 0;
+    /// False in a new node.
     virtual bool getAlphaBump() const = 0;
     virtual void setAlphaBump(bool flag) = 0;
+    /// False in a new node.
     virtual bool getAlphaTransparency() const = 0;
     virtual void setAlphaTransparency(bool flag) = 0;
+    /// False in a new node.
     virtual bool getMIPMAP() const = 0;
     virtual void setMIPMAP(bool flag) = 0;
+    /// False in a new node.
     virtual bool getTrilinearFilter() const = 0;
     virtual void setTrilinearFilter(bool flag) = 0;
     /// The setter has the first place of the two.
@@ -152,6 +176,7 @@ public:
     /// 0 in a new node, like the length of the movie.
     virtual std::int32_t getFrame() const = 0;
     virtual void setFrame(std::int32_t value) = 0;
+    /// 0 in a new node.
     virtual std::int32_t getMovieLength() const = 0;
     virtual void setMovieLength(std::int32_t value) = 0;
     /// 0.0 in a new node; not limited.
@@ -170,6 +195,7 @@ public:
     /// Reads this node alone from the first child "Node". False without one, and after a failure,
     /// which goes to the feedback; what was read before it stays.
     virtual bool initWithXML(OrvaneXML::XIXMLElement* element) = 0;
+    /// False in a new node.
     virtual bool getGlossyActivated() const = 0;
     virtual void setGlossyActivated(bool flag) = 0;
 

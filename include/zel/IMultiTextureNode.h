@@ -55,9 +55,11 @@ public:
     virtual void setNormal(const CZelPoint& vector) = 0;
     /// -1, 0, 0 in a new node. The two setters stand crossed; each does what its name says.
     virtual const CZelPoint& getXAxis() const = 0;
+    /// Stored as it comes.
     virtual void setYAxis(const CZelPoint& vector) = 0;
     /// 0, -1, 0 in a new node.
     virtual const CZelPoint& getYAxis() const = 0;
+    /// Stored as it comes.
     virtual void setXAxis(const CZelPoint& vector) = 0;
     /// 0.0 in a new node.
     virtual double getAngle() const = 0;

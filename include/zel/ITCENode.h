@@ -18,21 +18,22 @@ class IRootNode;
 class ITurbulenceNode;
 class IWangTilesNode;
 
-/// What a node of a material is.
+/// What a node of a material is: the operation of ITCENode that isn't null, and the number of
+/// children that it has when the material is saved.
 enum eNodeType : std::int32_t {
-    eRootNode = 0,
-    eChessNode = 1,
-    eMappingNode = 2,
-    eTurbulenceNode = 3,
-    eLeafNode = 4,
-    eFresnelNode = 5,
-    eFresnelDiffuseNode = 6,
-    eGlazingNode = 7,
-    eAltitudeNode = 8,
-    eMultiTextureNode = 9,
-    eWangTilesNode = 10,
-    eCustomNode = 11,
-    eMatteShadowNode = 12
+    eRootNode = 0,           ///< asRootNode; one child
+    eChessNode = 1,          ///< asChessNode; two children
+    eMappingNode = 2,        ///< asMappingNode; one child
+    eTurbulenceNode = 3,     ///< asTurbulenceNode; one child
+    eLeafNode = 4,           ///< asLeafNode; none
+    eFresnelNode = 5,        ///< asFresnelNode; one child
+    eFresnelDiffuseNode = 6, ///< asFresnelDiffuseNode; one child
+    eGlazingNode = 7,        ///< asGlazingNode; one child
+    eAltitudeNode = 8,       ///< asAltitudeNode; one child
+    eMultiTextureNode = 9,   ///< asMultiTextureNode; one child
+    eWangTilesNode = 10,     ///< asWangTilesNode; one child
+    eCustomNode = 11,        ///< asCustomNode; any number
+    eMatteShadowNode = 12    ///< asMatteShadowNode; one child
 };
 
 /// The tree side of a material's node.
@@ -54,6 +55,7 @@ public:
     virtual ITCENode* getParent() const = 0;
     /// Touches no list of children. Null is allowed.
     virtual void setParent(ITCENode* parent) = 0;
+    /// How many children the node holds, 0 in a new one.
     virtual std::int32_t getNbChilds() const = 0;
     /// Null outside the list, which is reported nowhere, and for an empty place.
     virtual ITCENode* getChild(std::int32_t index) = 0;
@@ -77,25 +79,41 @@ public:
     /// A number for the user interface, 0 in a new node.
     virtual std::uint32_t getUIValue() const = 0;
     virtual void setUIValue(std::uint32_t value) = 0;
+    /// The class of the node; it never changes.
     virtual eNodeType getNodeType() const = 0;
     /// The parameters of a node. Each of these is null except in the one class of that name.
     virtual IRootNode* asRootNode() = 0;
+    /// As asRootNode.
     virtual IChessNode* asChessNode() = 0;
+    /// As asRootNode.
     virtual IMappingNode* asMappingNode() = 0;
+    /// As asRootNode.
     virtual ITurbulenceNode* asTurbulenceNode() = 0;
+    /// As asRootNode.
     virtual ILeafNode* asLeafNode() = 0;
+    /// As asRootNode.
     virtual IFresnelNode* asFresnelNode() = 0;
+    /// As asRootNode.
     virtual IFresnelDiffuseNode* asFresnelDiffuseNode() = 0;
+    /// As asRootNode.
     virtual IGlazingNode* asGlazingNode() = 0;
+    /// As asRootNode.
     virtual ICustomNode* asCustomNode() = 0;
+    /// As asRootNode.
     virtual IAltitudeNode* asAltitudeNode() = 0;
+    /// As asRootNode.
     virtual IMultiTextureNode* asMultiTextureNode() = 0;
+    /// As asRootNode.
     virtual IWangTilesNode* asWangTilesNode() = 0;
+    /// As asRootNode.
     virtual IMatteShadowNode* asMatteShadowNode() = 0;
     /// Four that are always null and keep the places behind them.
     virtual void* asReserved1() = 0;
+    /// Always null.
     virtual void* asReserved2() = 0;
+    /// Always null.
     virtual void* asReserved3() = 0;
+    /// Always null.
     virtual void* asReserved4() = 0;
     /// Whether the node came with a shader document; true in a new node, and false in one read from
     /// a file that does not say so.

@@ -9,6 +9,7 @@ class ITable : public IZelBasic {
 public:
     static constexpr CZelUUID sIID{"9078E606B8C34B20A0C70A207C26D79B"};
 
+    /// How many values there are, 0 at first.
     virtual std::int32_t getLength() const = 0;
     /// Keeps the common part; new entries are 0. A negative length counts as 0. Throws
     /// std::bad_alloc when there is no memory.

@@ -23,6 +23,7 @@ public:
         /// Part of the set-up.
         virtual const IZelTime* getStartTime() const = 0;
         virtual IZelTime* getStartTime() = 0;
+        /// Part of the set-up.
         virtual const IZelTime* getEndTime() const = 0;
         virtual IZelTime* getEndTime() = 0;
         /// -1 undefined (the default), 0 white, 1 red, 2 orange, 3 rose, 4 purple, 5 light blue,
@@ -46,6 +47,7 @@ public:
     virtual std::int32_t getPlantType() const = 0;
     /// Any other number is stored too, but cannot be saved.
     virtual void setPlantType(std::int32_t type) = 0;
+    /// The set-ups by date, empty in a new plant; never null, good as long as the plant.
     virtual const TZelObjectMgr<IPlantSetUp>* getPlantSetUps() const = 0;
     virtual TZelObjectMgr<IPlantSetUp>* getPlantSetUps() = 0;
 

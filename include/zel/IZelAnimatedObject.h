@@ -22,17 +22,20 @@ public:
         /// 0 in a new take, as all its numbers.
         virtual std::int32_t getDuration() const = 0;
         virtual void setDuration(std::int32_t duration) = 0;
+        /// Frames a second; 0 in a new take.
         virtual std::int32_t getFPS() const = 0;
         virtual void setFPS(std::int32_t fps) = 0;
         /// Good until it is set again; null counts as the empty text.
         virtual const char* getName() const = 0;
         virtual void setName(const char* name) = 0;
+        /// 0.0 in a new take.
         virtual double getZMin() const = 0;
         virtual void setZMin(double zMin) = 0;
         /// 0 predefined, 1 on a path.
         virtual std::int32_t getType() const = 0;
         /// Any other number is stored too, but cannot be saved.
         virtual void setType(std::int32_t type) = 0;
+        /// 0.0 in a new take.
         virtual double getZAngle() const = 0;
         virtual void setZAngle(double angle) = 0;
 
@@ -48,6 +51,7 @@ public:
     virtual const char* getExternalFile() const = 0;
     /// Null counts as the empty text.
     virtual void setExternalFile(const char* file) = 0;
+    /// The takes, empty in a new one; never null, good as long as the character.
     virtual const TZelObjectMgr<IZelTake>* getTakes() const = 0;
     virtual TZelObjectMgr<IZelTake>* getTakes() = 0;
     /// 0 in a new one; its meaning is that of the client that loads the file.

@@ -25,8 +25,10 @@ public:
     /// 0.0 to 1.0, 0.6 in a new atmosphere, as the other densities.
     virtual double getHighDensity() const = 0;
     virtual void setHighDensity(double density) = 0;
+    /// 0.0 to 1.0, 0.6 in a new atmosphere.
     virtual double getMediumDensity() const = 0;
     virtual void setMediumDensity(double density) = 0;
+    /// 0.0 to 1.0, 0.6 in a new atmosphere.
     virtual double getLowDensity() const = 0;
     virtual void setLowDensity(double density) = 0;
     /// At least 0.0, 2.0 in a new atmosphere.

@@ -27,6 +27,7 @@ public:
     virtual std::uint64_t getProperty() const = 0;
     /// The file holds the low 32 bits; a handle above them does not survive a save.
     virtual void setProperty(std::uint64_t property) = 0;
+    /// The picture; never null, good as long as the entry.
     virtual const IZelTexture* getTexture() const = 0;
     virtual IZelTexture* getTexture() = 0;
 

@@ -30,15 +30,19 @@ public:
     /// The colours of a gradient: white, the fourth black in a new object.
     virtual CZelColor getFirstColor() const = 0;
     virtual void setFirstColor(const CZelColor& color) = 0;
+    /// White in a new object.
     virtual CZelColor getSecondColor() const = 0;
     virtual void setSecondColor(const CZelColor& color) = 0;
+    /// White in a new object.
     virtual CZelColor getThirdColor() const = 0;
     virtual void setThirdColor(const CZelColor& color) = 0;
+    /// Black in a new object.
     virtual CZelColor getFourthColor() const = 0;
     virtual void setFourthColor(const CZelColor& color) = 0;
     /// Place of the picture, 0.0 in a new object.
     virtual double getHOffset() const = 0;
     virtual void setHOffset(double offset) = 0;
+    /// 0.0 in a new object.
     virtual double getVOffset() const = 0;
     virtual void setVOffset(double offset) = 0;
     /// Whether the picture lights the scene, false in a new object.
@@ -56,6 +60,7 @@ public:
     /// Size of the picture, 1.0 in a new object.
     virtual double getWidth() const = 0;
     virtual void setWidth(double width) = 0;
+    /// 1.0 in a new object.
     virtual double getHeight() const = 0;
     virtual void setHeight(double height) = 0;
     /// True in a new object.

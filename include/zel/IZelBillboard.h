@@ -29,6 +29,7 @@ public:
         ~IZelBBName() = default;
     };
 
+    /// The names by language, empty in a new billboard; never null, good as long as it.
     virtual const TZelObjectMgr<IZelBBName>* getNames() const = 0;
     virtual TZelObjectMgr<IZelBBName>* getNames() = 0;
     /// 0 "Flat", 1 "Uniface", 2 "Multifaces"; 1 in a new billboard. A number without a label fails

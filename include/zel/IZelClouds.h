@@ -27,16 +27,19 @@ public:
     /// 0.5 in new clouds.
     virtual double getCirrusSize() const = 0;
     virtual void setCirrusSize(double size) = 0;
+    /// 0 in new clouds.
     virtual std::int32_t getCirrusSeed() const = 0;
     virtual void setCirrusSeed(std::int32_t seed) = 0;
     /// 0.2 in new clouds.
     virtual double getStratusSize() const = 0;
     virtual void setStratusSize(double size) = 0;
+    /// 0 in new clouds.
     virtual std::int32_t getStratusSeed() const = 0;
     virtual void setStratusSeed(std::int32_t seed) = 0;
     /// 0.4 in new clouds.
     virtual double getCirrocumulusSize() const = 0;
     virtual void setCirrocumulusSize(double size) = 0;
+    /// 0 in new clouds.
     virtual std::int32_t getCirrocumulusSeed() const = 0;
     virtual void setCirrocumulusSeed(std::int32_t seed) = 0;
     /// False in new clouds.

@@ -27,6 +27,7 @@ public:
     /// Both 0.0 in a new one.
     virtual double getClearnessDistanceInverse() const = 0;
     virtual void setClearnessDistanceInverse(double value) = 0;
+    /// 0.0 in a new one.
     virtual double getClearnessSizeInverse() const = 0;
     virtual void setClearnessSizeInverse(double value) = 0;
 

@@ -32,10 +32,13 @@ public:
     /// The parts are never null and live as long as the environment.
     virtual const IZelClouds* getClouds() const = 0;
     virtual IZelClouds* getClouds() = 0;
+    /// As getClouds.
     virtual const IZelFog* getFog() const = 0;
     virtual IZelFog* getFog() = 0;
+    /// As getClouds.
     virtual const IZelBackgroundPicture* getBackgroundPicture() const = 0;
     virtual IZelBackgroundPicture* getBackgroundPicture() = 0;
+    /// As getClouds.
     virtual const IZelForeground* getForeground() const = 0;
     virtual IZelForeground* getForeground() = 0;
 

@@ -15,6 +15,7 @@ class IZelExternalDefinition : public IZelBasic {
 public:
     static constexpr CZelUUID sIID{"EB2EDA6103C74CA894B1A3E7DD00DC69"};
 
+    /// The materials that replace those of the file; never null, good as long as the definition.
     virtual const TZelObjectMgr<IZelProperty>* getProperties() const = 0;
     virtual TZelObjectMgr<IZelProperty>* getProperties() = 0;
     /// Where the file is, empty in a new one; good until it is set again. The library never opens

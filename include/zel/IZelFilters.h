@@ -19,12 +19,16 @@ public:
     /// Never null, as the other filters.
     virtual const IZelImageSettingsFilter* getImageSettingsFilter() const = 0;
     virtual IZelImageSettingsFilter* getImageSettingsFilter() = 0;
+    /// As getImageSettingsFilter.
     virtual const IZelGrainFilter* getGrainFilter() const = 0;
     virtual IZelGrainFilter* getGrainFilter() = 0;
+    /// As getImageSettingsFilter.
     virtual const IZelVignettingFilter* getVignettingFilter() const = 0;
     virtual IZelVignettingFilter* getVignettingFilter() = 0;
+    /// As getImageSettingsFilter.
     virtual const IZelExposureFilter* getExposureFilter() const = 0;
     virtual IZelExposureFilter* getExposureFilter() = 0;
+    /// As getImageSettingsFilter.
     virtual const IZelHatchingFilter* getHatchingFilter() const = 0;
     virtual IZelHatchingFilter* getHatchingFilter() = 0;
 

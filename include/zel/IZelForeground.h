@@ -20,11 +20,13 @@ public:
     /// 0.0 in a new object.
     virtual double getPositionX() const = 0;
     virtual void setPositionX(double x) = 0;
+    /// 0.0 in a new object.
     virtual double getPositionY() const = 0;
     virtual void setPositionY(double y) = 0;
     /// 1.0 in a new object.
     virtual double getSizeX() const = 0;
     virtual void setSizeX(double size) = 0;
+    /// 1.0 in a new object.
     virtual double getSizeY() const = 0;
     virtual void setSizeY(double size) = 0;
     /// The identifier of an image, null in a new object. A file that the library wrote carries it,

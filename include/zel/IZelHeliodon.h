@@ -70,8 +70,10 @@ public:
     /// 0 in a new heliodon.
     virtual std::int32_t getGlobalIlluminationQuality() const = 0;
     virtual void setGlobalIlluminationQuality(std::int32_t quality) = 0;
+    /// Part of the heliodon, never null.
     virtual const IZelLensFlare* getLensFlare() const = 0;
     virtual IZelLensFlare* getLensFlare() = 0;
+    /// Part of the heliodon, never null.
     virtual const IZelGodRays* getGodRays() const = 0;
     virtual IZelGodRays* getGodRays() = 0;
     /// False in a new heliodon.
@@ -86,6 +88,7 @@ public:
     /// False in a new heliodon.
     virtual bool getRadiosity() const = 0;
     virtual void setRadiosity(bool radiosity) = 0;
+    /// Part of the heliodon, never null.
     virtual const IZelSkylight* getSkylight() const = 0;
     virtual IZelSkylight* getSkylight() = 0;
     /// 0 manual, 1 at 45 degrees, 2 by date and place; 0 in a new heliodon.
@@ -103,6 +106,7 @@ public:
     /// 0.785398 in a new heliodon.
     virtual double getPhi() const = 0;
     virtual void setPhi(double phi) = 0;
+    /// Part of the heliodon, never null.
     virtual const IZelClouds* getClouds() const = 0;
     virtual IZelClouds* getClouds() = 0;
     /// 0.5 in a new heliodon.
@@ -111,6 +115,7 @@ public:
     /// False in a new heliodon.
     virtual bool getCloudMaskSun() const = 0;
     virtual void setCloudMaskSun(bool masks) = 0;
+    /// Part of the heliodon, never null.
     virtual const IZelFog* getFog() const = 0;
     virtual IZelFog* getFog() = 0;
     /// False in a new heliodon.

@@ -46,7 +46,9 @@ public:
     virtual float getValue(std::int32_t index) const = 0;
     /// A sum, 0 in a new one.
     virtual void addToAccumulator(float value) = 0;
+    /// Null does nothing.
     virtual void getAccumulator(float* value) const = 0;
+    /// Back to 0.
     virtual void resetAccumulator() = 0;
     /// In pixels, 1 by 1 in a new one. With keep, nothing happens when the size is the same.
     virtual void setPictureSize(std::uint32_t width, std::uint32_t height, bool keep) = 0;
@@ -56,19 +58,27 @@ public:
     virtual float getAngle() const = 0;
     /// True in a new one; flags B, C, D and E are false.
     virtual bool getFlagA() const = 0;
+    /// False in a new one.
     virtual void setFlagE(bool flag) = 0;
+    /// False in a new one.
     virtual bool getFlagE() const = 0;
     /// Six values, index 0 to 5, 1 in a new one. Any other index stores nothing and gives 0;
     /// nothing warns.
     virtual void setSixValue(std::int32_t index, float value) = 0;
     /// All six become 1, and flag E false.
     virtual void resetSixValues() = 0;
+    /// As setSixValue tells.
     virtual float getSixValue(std::int32_t index) const = 0;
+    /// See getFlagA.
     virtual void setFlagA(bool flag) = 0;
+    /// In memory only; false in a new one.
     virtual void setFlagB(bool flag) = 0;
+    /// In memory only; false in a new one.
     virtual bool getFlagB() const = 0;
+    /// In memory only; false in a new one.
     virtual void setFlagC(bool flag) = 0;
     virtual bool getFlagC() const = 0;
+    /// False in a new one.
     virtual void setFlagD(bool flag) = 0;
     virtual bool getFlagD() const = 0;
     /// Puts values aside, apart from the live ones: 15 normalised points, 15 pixel points and three
@@ -96,10 +106,13 @@ public:
     /// These four are false in a new one.
     virtual bool getAxesVisibility() const = 0;
     virtual void setAxesVisibility(bool visible) = 0;
+    /// False in a new one.
     virtual bool getModelVisibility() const = 0;
     virtual void setModelVisibility(bool visible) = 0;
+    /// False in a new one.
     virtual bool getPerspectiveToolVisibility() const = 0;
     virtual void setPerspectiveToolVisibility(bool visible) = 0;
+    /// False in a new one.
     virtual bool getYAxeInverted() const = 0;
     virtual void setYAxeInverted(bool inverted) = 0;
 

@@ -44,6 +44,7 @@ public:
     /// Any number, 0.0 in a new light, as the far distance.
     virtual double getDistanceNear() const = 0;
     virtual void setDistanceNear(double distance) = 0;
+    /// Any number, 0.0 in a new light.
     virtual double getDistanceFar() const = 0;
     virtual void setDistanceFar(double distance) = 0;
     /// 200, 200, -200 in a new light.
@@ -88,6 +89,7 @@ public:
     /// Parts of the light, never null and good as long as the light.
     virtual const IZelLensFlare* getLensFlare() const = 0;
     virtual IZelLensFlare* getLensFlare() = 0;
+    /// As getLensFlare.
     virtual const IZelLightCone* getLightCone() const = 0;
     virtual IZelLightCone* getLightCone() = 0;
     /// True in a new light.

@@ -133,8 +133,14 @@
 namespace OvZel {
 
 /// A generation of the boundary. newZelMgr takes 30 to 50, getMgrEx 5 to 50.
-enum EVersionZEL : std::int32_t { eVersionZelOldest = 30, eVersionZel = 50 };
-enum EExtendedVersionZEL : std::int32_t { eExtendedVersionZel = 50 };
+enum EVersionZEL : std::int32_t {
+    eVersionZelOldest = 30, ///< the oldest that newZelMgr takes
+    eVersionZel = 50,       ///< that of these headers
+};
+/// A generation of what getMgrEx gives.
+enum EExtendedVersionZEL : std::int32_t {
+    eExtendedVersionZel = 50, ///< that of these headers
+};
 
 /// A scene document: the tree of its file, its lists of objects, its pictures and settings.
 ///
@@ -169,14 +175,14 @@ public:
     enum eImport : std::int32_t {
         /// Materials of instances and internal components, and the ground's: only overwritten.
         eImportMaterials = 0x001,
-        eImportLights = 0x010,
-        eImportHeliodons = 0x020,
+        eImportLights = 0x010,    ///< lights with their groups
+        eImportHeliodons = 0x020, ///< suns
         eImportInstances = 0x040, ///< instances with their layers, and the ground if it is active
-        eImportCameras = 0x080,
-        eImportParallelViews = 0x100,
-        eImportViewObjects = 0x200,
-        eImportPanoramas = 0x400,
-        eImportSequences = 0x800, ///< those of the first scenario
+        eImportCameras = 0x080,   ///< perspective views
+        eImportParallelViews = 0x100, ///< parallel views
+        eImportViewObjects = 0x200,   ///< turntables
+        eImportPanoramas = 0x400,     ///< panoramas that have nodes
+        eImportSequences = 0x800,     ///< those of the first scenario
     };
 
     /// Makes a document. *out is released first when it isn't null. A failure, such as
@@ -184,7 +190,9 @@ public:
     /// below 30, goes to the feedback with a null document and leaves *out null. The feedback may
     /// be null, isn't counted and must outlive the document. A null out does nothing.
     static ZEL_API void newZelMgr(IZelMgr** out, EVersionZEL clientVersion, IZelFeedback* feedback);
+    /// The newest generation that the loaded library takes, eVersionZel of its own headers.
     static ZEL_API EVersionZEL getZELVersion();
+    /// The same for getMgrEx.
     static ZEL_API EExtendedVersionZEL getExtendedZelVersion();
 
     /// Whether this library can read the stream, without loading it. readability, version and label
@@ -234,10 +242,13 @@ public:
     /// Name and version of the writing application, saved with the document; empty at first. A
     /// null text counts as empty.
     virtual void setApplication(const char* name, const char* version) = 0;
+    /// Never null.
     virtual const char* getApplicationName() const = 0;
+    /// Never null.
     virtual const char* getApplicationVersion() const = 0;
     /// Both give the same object.
     virtual IZelFileInfo* getFileInfo() = 0;
+    /// As getFileInfo.
     virtual IZelFileInfo* getFileInfo2() = 0;
     /// The further operations, for a client of generation 5 to 50; else null with a message as in
     /// newZelMgr.
@@ -255,22 +266,32 @@ public:
     /// Major and minor of the file generation last read, 5 and 1 before. Either may be null. Always
     /// true.
     virtual bool getFileVersion(std::int32_t* major, std::int32_t* minor) const = 0;
+    /// The perspective views.
     virtual TZelObjectMgr<IZelCamera>* getCameras() = 0;
     /// The document's own mesh, saved only while the document has no internal components.
     virtual TZelObjectMgr<IZelPolygon>* getPolygons() = 0;
+    /// The points of the document's own mesh.
     virtual TZelObjectMgr<CZelPoint>* getPoints() = 0;
+    /// The materials of the document. Polygons of its own mesh name them by index.
     virtual TZelObjectMgr<IZelProperty>* getProperties() = 0;
+    /// The artificial lights.
     virtual TZelObjectMgr<IZelLight>* getLights() = 0;
+    /// The views that turn around an object.
     virtual TZelObjectMgr<IZelViewObject>* getViewObjects() = 0;
+    /// The parallel views.
     virtual TZelObjectMgr<IZelParallelView>* getParallelViews() = 0;
+    /// The suns; a new document has one, named "Heliodon".
     virtual TZelObjectMgr<IZelHeliodon>* getHeliodons() = 0;
+    /// The groups that lights belong to.
     virtual TZelObjectMgr<IZelLightsGroup>* getLightsGroups() = 0;
     /// The picture shown for the file. A load of a file by library 5 or later leaves it empty:
     /// take it with readPreviewImage and give it back with setImage before a save.
     virtual IZelImage* getPreviewImage() = 0;
+    /// Pictures that are kept in the document.
     virtual TZelObjectMgr<IZelImage>* getImages() = 0;
     /// The scene itself as one definition, saved as one whatever its class, without a mesh.
     virtual IZelZelObjectDefinition* getObjectDefinition() = 0;
+    /// What is placed in the scene.
     virtual TZelObjectMgr<IZelObjectInstance>* getObjectInstances() = 0;
     /// As IZelMgrRef::getLanguage and setLanguage.
     virtual const char* getLanguage() const = 0;
@@ -288,12 +309,17 @@ public:
     /// empty tag. It isn't saved: each write removes all such elements. Sections of this data must
     /// not be named "Image", "Points" or "Polygons".
     virtual OrvaneXML::XIXMLElement* getApplicationData(const char* tag) = 0;
+    /// The time lines.
     virtual TZelObjectMgr<IZelScenario>* getScenarios() = 0;
+    /// Paths through the scene, named by interpolated values.
     virtual TZelObjectMgr<IZel3DPath>* get3DPaths() = 0;
+    /// The environments. One that no view names is not saved.
     virtual TZelObjectMgr<IZelEnvironment>* getEnvironments() = 0;
+    /// The grounds.
     virtual TZelObjectMgr<IZelGround>* getGrounds() = 0;
     /// Both give the same list.
     virtual TZelObjectMgr<IZelLayer>* getLayers() = 0;
+    /// As getLayers.
     virtual TZelObjectMgr<IZelLayer>* getLayers2() = 0;
     /// The active layer and the layers for new objects of each class; part of the document.
     virtual IZelLayerInfo* getLayerInfo() = 0;
@@ -312,10 +338,12 @@ public:
                               const CZelVersion* version) = 0;
     /// Takes the name of the scene's definition out of a stream, without loading it. Always true.
     virtual bool readMediaInfo(IZelReadStream* stream) = 0;
+    /// The panoramas.
     virtual TZelObjectMgr<IZelPanoramaV2>* getPanoramas() = 0;
     /// As IZelMgrRef::getMatrix and setMatrix.
     virtual const double* getMatrix() const = 0;
     virtual void setMatrix(const double* matrix) = 0;
+    /// The definitions that live in files of their own.
     virtual TZelObjectMgr<IZelExternalDefinition>* getExternalDefinitions() = 0;
 };
 

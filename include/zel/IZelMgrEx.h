@@ -19,7 +19,9 @@ struct CZelRenderParameters;
 /// reference. One thread at a time.
 class IZelMgrEx {
 public:
+    /// The animations with their camera paths.
     virtual TZelObjectMgr<IZelAnimation>* getAnimations() = 0;
+    /// The entries of the billboard manager.
     virtual TZelObjectMgr<IZelBBMgrData>* getBillboards() = 0;
     /// Reads a shader document into the property. With the root "Orvane.Shader" its "Node" replaces
     /// the nodes of the property; with "Zel.Shader" its "Property" is the whole property,
@@ -29,6 +31,7 @@ public:
     /// Writes the nodes of the property as "Zel.Shader" with a "Node", which readShader does not
     /// take back. A property without nodes, a null property or stream: a message and false.
     virtual bool writeShader(IZelProperty* property, IZelWriteStream* stream) = 0;
+    /// Parallel views apart from those of IZelMgr::getParallelViews.
     virtual TZelObjectMgr<IZelParallelView>* getWorkingViews() = 0;
     /// A new free-standing shader, which is never saved with the document; null, with a warning,
     /// when it cannot be made.

@@ -24,7 +24,9 @@ public:
     virtual void setMatrix(const double* matrix) = 0;
     /// The three transforms work in place on three doubles and do nothing while switched off.
     virtual void transformNormal(double* normal) const = 0;
+    /// As transformNormal, for a direction with a length.
     virtual void transformVector(double* vector) const = 0;
+    /// As transformNormal, for a place: the translation counts.
     virtual void transformPoint(double* point) const = 0;
 
 protected:

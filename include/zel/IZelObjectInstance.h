@@ -86,6 +86,7 @@ public:
     /// Locks of the user's, false in a new instance; the library enforces neither.
     virtual bool getCoordinatesLocked() const = 0;
     virtual void setCoordinatesLocked(bool locked) = 0;
+    /// As getCoordinatesLocked.
     virtual bool getScaleLocked() const = 0;
     virtual void setScaleLocked(bool locked) = 0;
     /// Writes the state of the delegate, if there is one, into "Instance.Data". Every save of the
@@ -99,14 +100,19 @@ public:
     /// set again or the instance is read anew.
     virtual const IZelZelObjectInstance* asZelObjectInstance() const = 0;
     virtual IZelZelObjectInstance* asZelObjectInstance() = 0;
+    /// As asZelObjectInstance.
     virtual const IZel3DPlantRef* as3DPlantRef() const = 0;
     virtual IZel3DPlantRef* as3DPlantRef() = 0;
+    /// As asZelObjectInstance.
     virtual const IZelBBObjectInstance* asBBObjectInstance() const = 0;
     virtual IZelBBObjectInstance* asBBObjectInstance() = 0;
+    /// As asZelObjectInstance.
     virtual const IZelObjectLightRef* asObjectLightRef() const = 0;
     virtual IZelObjectLightRef* asObjectLightRef() = 0;
+    /// As asZelObjectInstance.
     virtual const IZelAnimatedObjectInstance* asAnimatedObjectInstance() const = 0;
     virtual IZelAnimatedObjectInstance* asAnimatedObjectInstance() = 0;
+    /// As asZelObjectInstance.
     virtual const IZelInternalComponentInstance* asInternalComponentInstance() const = 0;
     virtual IZelInternalComponentInstance* asInternalComponentInstance() = 0;
     /// 0 "Normal", 1 "FollowOnPath", 2 "FollowOnPathXY"; 0 in a new instance. Stored and saved as

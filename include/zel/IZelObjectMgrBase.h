@@ -14,11 +14,13 @@ public:
 
     /// The identifier of the element type.
     virtual const CZelUUID* getObjectIID() const = 0;
+    /// How many elements there are.
     virtual std::int32_t getNbObjects() const = 0;
     /// -1 means the last element.
     virtual void removeObject(std::int32_t index) = 0;
     /// Takes the element out of from and inserts it at to, counted after the removal.
     virtual void moveObject(std::int32_t from, std::int32_t to) = 0;
+    /// Empties the list. Elements with a reference of a client live on without it.
     virtual void removeAllObjects() = 0;
     /// Makes room for that many elements; false for a negative number or when there is no memory.
     /// Lists of plain records take the number as their new capacity, but never less than the

@@ -19,6 +19,7 @@ public:
     public:
         static constexpr CZelUUID sIID{"FE405466A1354D50934C1DC31C061D78"};
 
+        /// The corners of the loop; never null, good as long as it.
         virtual const TZelObjectMgr<CZelVertex>* getVertices() const = 0;
         virtual TZelObjectMgr<CZelVertex>* getVertices() = 0;
 
@@ -35,7 +36,9 @@ public:
     /// Index into the materials, 0 in a new polygon; never checked.
     virtual std::int32_t getMaterial() const = 0;
     virtual void setMaterial(std::int32_t material) = 0;
+    /// The corners of the loop; never null, good as long as it.
     virtual TZelObjectMgr<CZelVertex>* getVertices() = 0;
+    /// The inner loops; never null, good as long as the polygon.
     virtual TZelObjectMgr<IZelHole>* getHoles() = 0;
 
 protected:

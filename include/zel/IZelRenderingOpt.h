@@ -46,6 +46,7 @@ public:
     /// Below 0 it becomes 0, with the warning "class CRenderingOpt: Method setHeight has clipped a
     /// value out of range.".
     virtual void setHeight(std::int32_t height) = 0;
+    /// As getHeight.
     virtual std::int32_t getWidth() const = 0;
     /// Below 0 it becomes 0, with the warning "class CRenderingOpt: Method setWidth has clipped a
     /// value out of range.".
@@ -54,10 +55,13 @@ public:
     /// picture.
     virtual std::int32_t getCropX() const = 0;
     virtual void setCropX(std::int32_t x) = 0;
+    /// As getCropX.
     virtual std::int32_t getCropY() const = 0;
     virtual void setCropY(std::int32_t y) = 0;
+    /// As getCropX.
     virtual std::int32_t getCropWidth() const = 0;
     virtual void setCropWidth(std::int32_t width) = 0;
+    /// As getCropX.
     virtual std::int32_t getCropHeight() const = 0;
     virtual void setCropHeight(std::int32_t height) = 0;
     /// Where the result goes, empty in new options; good until the next change.
@@ -81,6 +85,7 @@ public:
     /// Below 0 it becomes 0, with the warning "class CRenderingOpt: Method setRenderFirst has
     /// clipped a value out of range.".
     virtual void setRenderFirst(std::int32_t index) = 0;
+    /// As getRenderFirst.
     virtual std::int32_t getRenderLast() const = 0;
     /// Below 0 it becomes 0, with the warning "class CRenderingOpt: Method setRenderLast has
     /// clipped a value out of range.".

@@ -28,6 +28,7 @@ public:
     /// All lists are owned by the scenario and never null.
     virtual const TZelObjectMgr<IZelSequence>* getSequences() const = 0;
     virtual TZelObjectMgr<IZelSequence>* getSequences() = 0;
+    /// The objects that move, with their key frames.
     virtual const TZelObjectMgr<IZelAnimatedElement>* getAnimatedElements() const = 0;
     virtual TZelObjectMgr<IZelAnimatedElement>* getAnimatedElements() = 0;
     /// 0 in a new scenario.
@@ -36,6 +37,7 @@ public:
     /// An index into the sequences that nothing checks, 0 in a new scenario.
     virtual std::int32_t getCurrentSequence() const = 0;
     virtual void setCurrentSequence(std::int32_t index) = 0;
+    /// The sounds.
     virtual const TZelObjectMgr<IZelSnd>* getSnds() const = 0;
     virtual TZelObjectMgr<IZelSnd>* getSnds() = 0;
     /// 500 in a new scenario.
@@ -50,6 +52,7 @@ public:
     /// 500 in a new scenario; it does not follow the maximum time.
     virtual void setEndVisibleTime(std::int32_t time) = 0;
     virtual std::int32_t getEndVisibleTime() const = 0;
+    /// The marks on the time line.
     virtual const TZelObjectMgr<IZelScenarioTimeGuide>* getTimeGuides() const = 0;
     virtual TZelObjectMgr<IZelScenarioTimeGuide>* getTimeGuides() = 0;
 

@@ -27,18 +27,22 @@ public:
     /// 0 automatic, 1 chosen by the user; 0 in a new sky.
     virtual std::int32_t getSkyType() const = 0;
     virtual void setSkyType(std::int32_t type) = 0;
+    /// False in a new sky.
     virtual bool getBackground() const = 0;
     virtual void setBackground(bool background) = 0;
     /// 0.2 in a new sky.
     virtual double getPollution() const = 0;
     virtual void setPollution(double pollution) = 0;
+    /// False in a new sky.
     virtual bool getSkyMixColorFlag() const = 0;
     virtual void setSkyMixColorFlag(bool flag) = 0;
     /// 255, 255, 255 in a new sky.
     virtual CZelColor getSkyMixColor() const = 0;
     virtual void setSkyMixColor(const CZelColor& color) = 0;
+    /// False in a new sky.
     virtual bool getPowerFlag() const = 0;
     virtual void setPowerFlag(bool flag) = 0;
+    /// False in a new sky.
     virtual bool getSkyColorFlag() const = 0;
     virtual void setSkyColorFlag(bool flag) = 0;
     /// 0.5 in a new sky.

@@ -19,10 +19,13 @@ public:
     virtual const char* getCurrentText() const = 0;
     /// Replaces or appends; a null text removes the language.
     virtual void setText(std::uint32_t language, const char* text) = 0;
+    /// As setText, in the language that getCurrentText asks for first.
     virtual void setCurrentText(const char* text) = 0;
+    /// How many languages there are.
     virtual std::uint32_t getNbTexts() const = 0;
     /// 0 when the index is out of range.
     virtual std::uint32_t getLanguageKey(std::uint32_t index) const = 0;
+    /// Removes every language.
     virtual void clear() = 0;
 
 protected:

@@ -15,6 +15,7 @@ public:
     /// 1.0 in a new sub-part, like the width; neither is limited.
     virtual double getHeight() const = 0;
     virtual void setHeight(double height) = 0;
+    /// As getHeight.
     virtual double getWidth() const = 0;
     virtual void setWidth(double width) = 0;
 

@@ -31,7 +31,8 @@ public:
     /// A number for the user interface, 0 in a new one; that of the root node.
     virtual std::uint32_t getUIValue() const = 0;
     virtual void setUIValue(std::uint32_t value) = 0;
-    /// Never null, and without children in a new tree: the material hangs in its first place.
+    /// Never null, and without children in a new tree: the material hangs in its first place. A
+    /// tree with a chain that has no leaf at its end, a new one too, cannot be saved.
     virtual const ITCENode* getRootNode() const = 0;
     virtual ITCENode* getRootNode() = 0;
     /// A new node of a type from 1 to 12 (eNodeType), with the root as its parent but in no list of

@@ -19,11 +19,13 @@ public:
     /// 0, 0, 1 in a new texture, as the other axis.
     virtual const CZelPoint& getXAxis() const = 0;
     virtual void setXAxis(const CZelPoint& axis) = 0;
+    /// 0, 0, 1 in a new texture.
     virtual const CZelPoint& getYAxis() const = 0;
     virtual void setYAxis(const CZelPoint& axis) = 0;
     /// 0.0 in a new texture, as the height.
     virtual double getWidth() const = 0;
     virtual void setWidth(double width) = 0;
+    /// 0.0 in a new texture.
     virtual double getHeight() const = 0;
     virtual void setHeight(double height) = 0;
     /// Whether the first cut-out colour counts; false in a new texture. The colour of one that does
@@ -36,6 +38,7 @@ public:
     /// As the first one.
     virtual bool getCutOut2Used() const = 0;
     virtual void setCutOut2Used(bool used) = 0;
+    /// Black in a new texture.
     virtual CZelColor getCutOut2() const = 0;
     virtual void setCutOut2(const CZelColor& color) = 0;
     /// False in a new texture.

@@ -37,6 +37,7 @@ public:
     /// Not saved with the view: its own putInXML and initWithXML are the only file form.
     virtual const IZelBackground* getBackground() const = 0;
     virtual IZelBackground* getBackground() = 0;
+    /// The picture in front of the view.
     virtual const IZelForeground* getForeground() const = 0;
     virtual IZelForeground* getForeground() = 0;
     /// Identifiers of the light groups that are lit.
@@ -46,35 +47,44 @@ public:
     /// next change; null counts as the empty text.
     virtual const char* getHeliodonName() const = 0;
     virtual void setHeliodonName(const char* name) = 0;
+    /// The light at the eye of this view.
     virtual const IZelCameraLight* getCameraLight() const = 0;
     virtual IZelCameraLight* getCameraLight() = 0;
+    /// The light at the eye for a rendering with radiosity.
     virtual const IZelCameraLight* getRadiosityLight() const = 0;
     virtual IZelCameraLight* getRadiosityLight() = 0;
     /// Not saved with the view, as the background.
     virtual const IZelAtmosphere* getAtmosphere() const = 0;
     virtual IZelAtmosphere* getAtmosphere() = 0;
+    /// What is sharp and what is not.
     virtual const IZelDepthOfField* getDepthOfField() const = 0;
     virtual IZelDepthOfField* getDepthOfField() = 0;
+    /// The box outside which nothing is shown.
     virtual const IZelClippingBox* getClippingBox() const = 0;
     virtual IZelClippingBox* getClippingBox() = 0;
     /// Identifier of the environment, null in a new one. An environment that no view names is not
     /// saved: it goes into the file with the views that use it.
     virtual const CZelUUID& getEnvironment() const = 0;
     virtual void setEnvironment(const CZelUUID& id) = 0;
+    /// The filters that work on the finished picture.
     virtual const IZelFilters* getFilters() const = 0;
     virtual IZelFilters* getFilters() = 0;
+    /// Identifiers of the materials that glow in this view.
     virtual const TZelObjectMgr<CZelUUID>* getNeonShaders() const = 0;
     virtual TZelObjectMgr<CZelUUID>* getNeonShaders() = 0;
+    /// The picture behind the view.
     virtual const IZelBackgroundPicture* getBackgroundPicture() const = 0;
     virtual IZelBackgroundPicture* getBackgroundPicture() = 0;
     /// Identifiers of the layers that are visible.
     virtual const TZelObjectMgr<CZelUUID>* getLayers() const = 0;
     virtual TZelObjectMgr<CZelUUID>* getLayers() = 0;
+    /// How light and dark tones are shown.
     virtual const IZelToneSettings* getToneSettings() const = 0;
     virtual IZelToneSettings* getToneSettings() = 0;
     /// Identifier of the ground, null in a new one.
     virtual const CZelUUID& getGround() const = 0;
     virtual void setGround(const CZelUUID& id) = 0;
+    /// The laser plane of this view.
     virtual const IZelLaser* getLaser() const = 0;
     virtual IZelLaser* getLaser() = 0;
 

@@ -41,6 +41,7 @@ public:
     /// Both steps are in degrees and 10 in a new one; 0 becomes 1.
     virtual std::uint32_t getHorizontalStep() const = 0;
     virtual void setHorizontalStep(std::uint32_t step) = 0;
+    /// As getHorizontalStep.
     virtual std::uint32_t getVerticalStep() const = 0;
     virtual void setVerticalStep(std::uint32_t step) = 0;
     /// In degrees: 0 in a new one, below 0 or above 360 the limit is stored.

@@ -18,6 +18,7 @@ public:
     /// Never null; good as long as the view lives.
     virtual const IZelRenderingOpt* getRenderingOpt() const = 0;
     virtual IZelRenderingOpt* getRenderingOpt() = 0;
+    /// As getRenderingOpt.
     virtual const IZelCompressionOpt* getCompressionOpt() const = 0;
     virtual IZelCompressionOpt* getCompressionOpt() = 0;
 

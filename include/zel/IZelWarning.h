@@ -8,6 +8,7 @@ namespace OvZel {
 /// feedback; nothing that a feedback throws comes back.
 class IZelWarning {
 public:
+    /// Hands the text to the feedback's message.
     virtual void warning(const char* text) = 0;
     /// Sends "Exception in %s : %s" with the context and the exception's text.
     virtual void exceptionWarning(const char* context, const std::exception& exception) = 0;

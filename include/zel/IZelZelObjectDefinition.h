@@ -102,25 +102,32 @@ public:
     /// The mesh. That of the scene's own definition is never saved.
     virtual const TZelObjectMgr<CZelPoint>* getPoints() const = 0;
     virtual TZelObjectMgr<CZelPoint>* getPoints() = 0;
+    /// As getPoints.
     virtual const TZelObjectMgr<IZelPolygon>* getPolygons() const = 0;
     virtual TZelObjectMgr<IZelPolygon>* getPolygons() = 0;
+    /// A text in several languages, part of the definition.
     virtual const IZelString* getDescription1() const = 0;
     virtual IZelString* getDescription1() = 0;
+    /// A second such text.
     virtual const IZelString* getDescription2() const = 0;
     virtual IZelString* getDescription2() = 0;
+    /// A third such text.
     virtual const IZelString* getComment() const = 0;
     virtual IZelString* getComment() = 0;
     /// The lights group of the definition, null in a new one. Nothing resolves it.
     virtual const CZelUUID& getLightGroupID() const = 0;
     virtual void setLightGroupID(const CZelUUID& id) = 0;
+    /// The set-ups, empty in a new definition; never null, good as long as it.
     virtual const TZelObjectMgr<IZelZelObjectSetup>* getSetups() const = 0;
     virtual TZelObjectMgr<IZelZelObjectSetup>* getSetups() = 0;
     /// The interface of the class, null for another class. It is good until the class changes or
     /// the definition is read again.
     virtual const IZel3DPlant* as3DPlant() const = 0;
     virtual IZel3DPlant* as3DPlant() = 0;
+    /// As as3DPlant.
     virtual const IZelObjectLight* asObjectLight() const = 0;
     virtual IZelObjectLight* asObjectLight() = 0;
+    /// As as3DPlant.
     virtual const IZelAnimatedObject* asAnimatedObject() const = 0;
     virtual IZelAnimatedObject* asAnimatedObject() = 0;
     /// Level of detail of an internal component, 0 in a new one; any number.

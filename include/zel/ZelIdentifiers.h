@@ -7,7 +7,9 @@ namespace OvZel {
 /// Identifiers of element types, as IZelObjectMgrBase::getObjectIID answers them, for types that
 /// carry no sIID of their own.
 namespace ElementId {
+/// Of CZelUUID, in lists of identifiers.
 inline constexpr CZelUUID kZelUUID{"4F9C1F83DEFB4453B882001C03F72FC0"};
+/// Of double, in lists of numbers.
 inline constexpr CZelUUID kDouble{"D0BEAB20EDA7418CA9E139112E36F6EB"};
 } // namespace ElementId
 

@@ -19,6 +19,7 @@ public:
     /// The NUL-terminated name, owned by the tree.
     constexpr operator const char*() const { return mText; }
 
+    /// By the text; two keys that are no name are equal.
     bool operator==(const char* text) const { return isSame(mText, text); }
     bool operator!=(const char* text) const { return !isSame(mText, text); }
     bool operator==(const XCXMLKey& other) const { return isSame(mText, other.mText); }

@@ -11,6 +11,7 @@ class XIXMLAttribute {
 public:
     /// The next attribute in file order, or null.
     virtual XIXMLAttribute* GetNext() const = 0;
+    /// The name of the attribute.
     virtual XCXMLKey GetKey() const = 0;
     /// Never null; valid until the value is set again.
     virtual const char* GetValue() const = 0;

@@ -36,13 +36,15 @@ public:
     /// Appends an instruction. See XIXMLInstruction::SetContent for the content.
     virtual XIXMLData* AddInstruction(const char* target, const char* content) = 0;
     /// Makes `provider` the provider of this element's first CDATA child, which is appended if
-    /// there is none. The tree owns it from here on; the one before is destroyed. Null removes the
-    /// child. The section is always written, also when its provider writes nothing.
+    /// there is none. The tree owns it from here on, also when this throws; the one before is
+    /// destroyed. Null removes the child. The section is always written, also when its provider
+    /// writes nothing.
     virtual void SetCData(XIXMLData::IXMLCData* provider) = 0;
     /// Appends a text node, also for an empty text.
     virtual XIXMLData* AddText(const char* text) = 0;
     /// Appends an element.
     virtual XIXMLElement* AddElement(XCXMLKey key) = 0;
+    /// The name of the element.
     virtual XCXMLKey GetKey() const = 0;
     /// Renames the element in place.
     virtual void SetKey(XCXMLKey key) = 0;

@@ -8,6 +8,7 @@ namespace OrvaneXML {
 /// The order of the virtual operations is a promise to compiled clients.
 class XIXMLInstruction {
 public:
+    /// The word behind "<?"; never null.
     virtual const char* GetTarget() const = 0;
     /// What stands behind the target and its white space; never null.
     virtual const char* GetContent() const = 0;
