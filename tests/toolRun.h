@@ -13,7 +13,7 @@ public:
     CTempFolder& operator=(const CTempFolder&) = delete;
 
     /// The whole name of a file in the folder.
-    std::string file(const std::string& name) const { return (mPath / name).string(); }
+    std::string file(const std::string& name) const;
     /// Makes a file and gives its whole name.
     std::string put(const std::string& name, const std::string& text) const;
     /// The names in the folder, sorted.

@@ -4,7 +4,7 @@
 #include "tools/interrupt.h"
 #include "tools/platform.h"
 
-#include <filesystem>
+#include <cerrno>
 
 namespace tool {
 
@@ -14,30 +14,31 @@ namespace fs = std::filesystem;
 static std::string resolve(const std::string& target)
 {
     std::error_code error;
-    const fs::path whole = fs::absolute(target, error);
+    const fs::path whole = fs::absolute(filePath(target), error);
     const fs::path file = fs::canonical(whole, error);
     if (error)
-        return whole.string();
+        return fileName(whole);
     if (!fs::is_regular_file(file, error))
         throw CToolError(eIoError, target + ": not an ordinary file");
-    return file.string();
+    return fileName(file);
 }
 
-static std::string nameBeside(const std::string& target)
+// Makes a new file in the folder of the target, under a name that nobody else has taken: on another
+// machine that shares the folder a process may have the same number.
+static int createBeside(const std::string& target, std::string& name)
 {
-    const fs::path folder = fs::path(target).parent_path();
+    const fs::path folder = filePath(target).parent_path();
     for (int number = 0;; ++number) {
-        const fs::path path = folder / (".zel-" + std::to_string(processNumber()) + "-" +
-                                        std::to_string(number) + ".tmp");
-        std::error_code error;
-        if (!fs::exists(path, error))
-            return path.string();
+        name = fileName(folder / (".zel-" + std::to_string(processNumber()) + "-" +
+                                  std::to_string(number) + ".tmp"));
+        const int descriptor = createFile(name, target);
+        if (descriptor >= 0 || errno != EEXIST)
+            return descriptor;
     }
 }
 
 CAtomicFile::CAtomicFile(const std::string& target)
-    : mTarget(resolve(target)), mTemporary(nameBeside(mTarget)),
-      mDescriptor(createFile(mTemporary, mTarget)), mStream(mDescriptor)
+    : mTarget(resolve(target)), mDescriptor(createBeside(mTarget, mTemporary)), mStream(mDescriptor)
 {
     if (mDescriptor < 0)
         fail(lastFailure());

@@ -7,7 +7,7 @@
 namespace tool {
 
 CFileReadStream::CFileReadStream(const std::string& path)
-    : mPath(path), mFile(path, std::ios::in | std::ios::binary)
+    : mPath(path), mFile(filePath(path), std::ios::in | std::ios::binary)
 {
     if (!mFile.is_open() || mFile.tellg() == std::streampos(-1))
         throw CToolError(eIoError, path + ": can't open: " + lastFailure());

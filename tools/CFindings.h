@@ -6,20 +6,19 @@ namespace tool {
 
 class CToolOutput;
 
-/// Writes the findings of one file as they come.
+struct CFileTask;
+
+/// Writes the findings of one file as they come, or puts them into its object.
 class CFindings {
 public:
-    CFindings(const std::string& file, bool asJson, CToolOutput& output)
-        : mFile(file), mAsJson(asJson), mOutput(output)
-    {
-    }
+    CFindings(const CFileTask& task, bool asJson, CToolOutput& output);
 
     /// Throws CToolError(eIoError) when the line cannot be written.
     void add(const char* code, const std::string& text);
     bool isEmpty() const { return mIsEmpty; }
 
 private:
-    const std::string& mFile;
+    const CFileTask& mTask;
     bool mAsJson;
     CToolOutput& mOutput;
     bool mIsEmpty = true;

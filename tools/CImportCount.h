@@ -39,6 +39,8 @@ std::vector<CImportCount> importCounts(OvZel::IZelMgr& destination, OvZel::IZelM
 
 /// The parts of it for the lists that aren't paired by name alone.
 CImportCount countInstances(OvZel::IZelMgr& destination, OvZel::IZelMgr& source);
+/// For each instance whether it places a component that the document does not have.
+std::vector<bool> instancesWithoutComponent(OvZel::IZelMgr& document);
 CImportCount countLayers(OvZel::IZelMgr& destination, OvZel::IZelMgr& source);
 CImportCount countMaterials(OvZel::IZelMgr& destination, OvZel::IZelMgr& source,
                             const CSizeBefore& before);

@@ -8,7 +8,14 @@
 
 namespace tool {
 
-CProgressBar::CProgressBar() : mOnTerminal(isErrorTerminal()) {}
+static bool isTurnedOff = false;
+
+void CProgressBar::turnOff()
+{
+    isTurnedOff = true;
+}
+
+CProgressBar::CProgressBar() : mOnTerminal(!isTurnedOff && isErrorTerminal()) {}
 
 void CProgressBar::show(std::int64_t position, std::int64_t total)
 {

@@ -12,6 +12,9 @@ public:
     CProgressBar(const CProgressBar&) = delete;
     CProgressBar& operator=(const CProgressBar&) = delete;
 
+    /// From here on no new bar shows anything, as suits one process of several.
+    static void turnOff();
+
     /// Numbers out of range count as the nearest that is in it.
     void show(std::int64_t position, std::int64_t total);
     /// Takes the bar away, so that a line can be written.

@@ -6,7 +6,7 @@ namespace tool {
 
 void complain(const std::string& text)
 {
-    std::fprintf(stderr, "zel: %s\n", text.c_str());
+    std::fputs(("zel: " + text + '\n').c_str(), stderr); // in one piece
 }
 
 } // namespace tool

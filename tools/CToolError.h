@@ -11,6 +11,8 @@ enum EExit : int {
     eFindings = 1,
     eUsage = 64,
     eNotReadable = 65,
+    eUnavailable = 69, // built without what it takes
+    eCrashed = 70,     // a worker process ended in the middle of a file
     eIoError = 74,
     eInterrupted = 130, // by Ctrl-C
     eTerminated = 143,  // by SIGTERM
@@ -25,6 +27,12 @@ public:
 
 private:
     EExit mCode;
+};
+
+/// A failure that ends a run over many files too, since it is not about one of them.
+class CRunError : public CToolError {
+public:
+    using CToolError::CToolError;
 };
 
 /// Puts one line on standard error.

@@ -38,7 +38,7 @@ void CToolFeedback::message(OvZel::IZelMgr*, const char* text)
     if (mReceiver)
         mReceiver(line);
     else
-        std::fprintf(stderr, "%s\n", line.c_str());
+        std::fputs((line + '\n').c_str(), stderr); // in one piece
 }
 
 bool CToolFeedback::progress(OvZel::IZelMgr*, std::int32_t position, std::int32_t total)

@@ -15,8 +15,16 @@ CToolOutput::~CToolOutput()
 
 void CToolOutput::write(const std::string& text)
 {
+    if (mIsHeld)
+        mHeld += text;
+    else
+        pass(text);
+}
+
+void CToolOutput::pass(const std::string& text)
+{
     if (!writeAll(mDescriptor, text.data(), text.size()))
-        throw CToolError(eIoError, "can't write to standard output: " + lastFailure());
+        throw CRunError(eIoError, "can't write to standard output: " + lastFailure());
 }
 
 } // namespace tool

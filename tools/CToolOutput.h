@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace tool {
 
@@ -16,11 +17,18 @@ public:
     CToolOutput(const CToolOutput&) = delete;
     CToolOutput& operator=(const CToolOutput&) = delete;
 
-    /// Throws CToolError(eIoError) when the text cannot be written.
+    /// Throws CRunError(eIoError) when the text cannot be written.
     void write(const std::string& text);
+    /// From here on write collects the texts, and take gives those since the last one.
+    void hold() { mIsHeld = true; }
+    std::string take() { return std::exchange(mHeld, {}); }
+    /// Writes a text past those that are held. Throws as write does.
+    void pass(const std::string& text);
 
 private:
     int mDescriptor;
+    bool mIsHeld = false;
+    std::string mHeld;
 };
 
 } // namespace tool

@@ -1,5 +1,6 @@
 #include "tools/commands.h"
 
+#include "tools/CFileRun.h"
 #include "tools/CFindings.h"
 #include "tools/CToolDocument.h"
 #include "tools/checkParts.h"
@@ -79,10 +80,10 @@ static void checkContent(OvZel::IZelMgr& document, CFindings& findings)
     checkAnimation(document, findings);
 }
 
-static EExit checkFile(const std::string& file, bool asJson, CToolOutput& output)
+static EExit checkFile(const CFileTask& task, bool asJson, CToolOutput& output)
 {
-    CFileReadStream stream(file);
-    CFindings findings(file, asJson, output);
+    CFileReadStream stream(task.file);
+    CFindings findings(task, asJson, output);
     checkVersion(stream, findings);
     std::exception_ptr failure; // the library swallows what a receiver throws
     CToolDocument document;
@@ -93,17 +94,17 @@ static EExit checkFile(const std::string& file, bool asJson, CToolOutput& output
             failure = std::current_exception();
         }
     });
-    document.read(stream, file);
+    document.read(stream, task.file);
     if (failure)
         std::rethrow_exception(failure);
     checkContent(*document, findings);
     return findings.isEmpty() ? eDone : eFindings;
 }
 
-EExit checkCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output)
+EExit checkCommand(const CFileRun& run, CToolOutput& output)
 {
-    return eachFile(files,
-                    [&](const std::string& file) { return checkFile(file, asJson, output); });
+    return eachFile(
+        run, [&](const CFileTask& task) { return checkFile(task, run.asJson, output); }, output);
 }
 
 } // namespace tool

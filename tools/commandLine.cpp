@@ -1,6 +1,8 @@
 #include "tools/commandLine.h"
 
+#include "tools/CFileRun.h"
 #include "tools/commands.h"
+#include "tools/fileRunOptions.h"
 
 #include <zel/IZelMgr.h>
 
@@ -29,7 +31,52 @@ static std::optional<OvZel::CZelVersion> versionOf(const std::string& text)
     return place == end ? std::optional(version) : std::nullopt;
 }
 
-void addRewriteOptions(CLI::App& rewrite, CRewrite& request)
+// What a worker is told, which knows the paths alone.
+static std::vector<std::string> workerArguments(const CRewrite& request)
+{
+    std::vector<std::string> arguments;
+    if (const auto& version = request.minVersion)
+        arguments.insert(arguments.end(),
+                         {"--min-version", std::to_string(version->major) + "." +
+                                               std::to_string(version->minor) + "." +
+                                               std::to_string(version->patch)});
+    if (request.bare)
+        arguments.push_back("--bare");
+    if (request.force)
+        arguments.push_back("--force");
+    if (request.inPlace)
+        arguments.push_back("--in-place");
+    else
+        arguments.push_back("--output-dir=" + request.outputDir);
+    return arguments;
+}
+
+// Either IN and OUT, or files with a place for what becomes of them.
+static void takeFiles(CRewrite& request, CFileRun& run)
+{
+    if (request.isOfMany()) {
+        if (!request.out.empty())
+            run.files.insert(run.files.begin(), request.out);
+        if (!request.in.empty())
+            run.files.insert(run.files.begin(), request.in);
+        if (run.files.empty() && !run.isWorker)
+            throw CLI::RequiredError("FILE");
+        run.command = "rewrite";
+        run.workerArguments = workerArguments(request);
+        run.skippedFolder = request.outputDir;
+        return;
+    }
+    if (run.isOfMany() || run.asJson)
+        throw CLI::RequiredError("--in-place or --output-dir");
+    if (request.in.empty())
+        throw CLI::RequiredError("IN");
+    if (request.out.empty())
+        throw CLI::RequiredError("OUT");
+    if (!run.files.empty())
+        throw CLI::ExtrasError(run.files);
+}
+
+void addRewriteOptions(CLI::App& rewrite, CRewrite& request, CFileRun& run)
 {
     rewrite
         .add_option_function<std::string>(
@@ -43,10 +90,24 @@ void addRewriteOptions(CLI::App& rewrite, CRewrite& request)
                      "Load and save only: no check, and the preview picture of a newer file is "
                      "lost");
     rewrite.add_flag("--force", request.force, "Save also where data of IN is lost");
-    rewrite.add_option("IN", request.in, "The document to load")->required();
-    rewrite.add_option("OUT", request.out, "The document to save; may be IN")->required();
+    CLI::Option* const inPlace =
+        rewrite.add_flag("--in-place", request.inPlace, "Save each FILE in its own place");
+    rewrite
+        .add_option("--output-dir", request.outputDir, "Save each FILE under its path below DIR")
+        ->excludes(inPlace)
+        ->type_name("DIR");
+    rewrite.add_flag("--json", run.asJson, "One JSON object for each FILE and line");
+    addFileRunOptions(rewrite, run);
+    rewrite.add_option("IN", request.in, "The document to load");
+    rewrite.add_option("OUT", request.out, "The document to save; may be IN");
+    rewrite.add_option("FILE", run.files,
+                       "With --in-place or --output-dir: documents, folders, or - for a list on "
+                       "input");
+    rewrite.parse_complete_callback([&] { takeFiles(request, run); });
     rewrite.footer("OUT is replaced as a whole or not at all. A file that a newer library wrote, "
-                   "or of which\na block can't be read, is refused unless forced.\n\n"
+                   "or of which\na block can't be read, is refused unless forced. The options for "
+                   "many files need --in-place\nor --output-dir, and then every file named is a "
+                   "FILE.\n\n"
                    "Example: zel rewrite --min-version 6.0.0 old.zel new.zel");
 }
 

@@ -11,31 +11,39 @@
 
 namespace tool {
 
+struct CFileRun;
 class CToolOutput;
 
 /// The commands of the tool. What stops one is thrown as CToolError, what does not is told on
 /// standard error.
 
 /// One line for each file, by the probes alone. The worst outcome is the result.
-EExit infoCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output);
+EExit infoCommand(const CFileRun& run, CToolOutput& output);
 /// An outline of each list of a document: how many elements, and what matters most in each.
 void showCommand(const std::string& file, bool asJson, CToolOutput& output);
 /// One line for each finding, by a load. eFindings when there is any, unless something is worse.
-EExit checkCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output);
+EExit checkCommand(const CFileRun& run, CToolOutput& output);
 /// The codes that checkCommand gives, one a line, with what each means.
 std::string findingCodes();
-/// The preview picture as a PNG file, by the probe alone.
-void previewCommand(const std::string& file, const std::string& png);
+/// The preview picture as a PNG file, by the probe alone; shrunk to fit into a square of so many
+/// pixels a side, unless that is 0.
+void previewCommand(const std::string& file, const std::string& png, std::uint32_t side);
 struct CRewrite {
     std::string in;
     std::string out;
     std::optional<OvZel::CZelVersion> minVersion; ///< what out claims to be readable by
     bool bare = false;
     bool force = false;
+    bool inPlace = false;  ///< of many files: each is replaced by what is saved
+    std::string outputDir; ///< of many files: the folder to save in
+
+    bool isOfMany() const { return inPlace || !outputDir.empty(); }
 };
 /// Load and save. With bare nothing but that; otherwise the preview picture is carried over, and
 /// what would lose data of a newer file or of a broken block is refused unless forced.
 void rewriteCommand(const CRewrite& request);
+/// The same with each file of a run, in its place or under its path below the folder.
+EExit rewriteFilesCommand(const CRewrite& request, const CFileRun& run, CToolOutput& output);
 struct CDiff {
     std::string a;
     std::string b;

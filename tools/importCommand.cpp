@@ -92,6 +92,17 @@ static void importStage(IZelMgr& destination, IZelMgr& source, std::int32_t flag
     }
 }
 
+// Components are not imported, so that an instance may come without the one that it places.
+static std::size_t countWithout(IZelMgr& destination, std::vector<bool> before)
+{
+    const std::vector<bool> after = instancesWithoutComponent(destination);
+    before.resize(after.size());
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < after.size(); ++i)
+        count += after[i] && !before[i] ? 1 : 0;
+    return count;
+}
+
 // The instances come first, and in a stage of their own: what the other categories find depends on
 // them.
 static std::vector<CImportCount> importAll(IZelMgr& destination, IZelMgr& source,
@@ -117,7 +128,7 @@ static std::string quoted(const std::vector<std::string>& names)
     return text;
 }
 
-static std::string tableOf(const std::vector<CImportCount>& counts)
+static std::string tableOf(const std::vector<CImportCount>& counts, std::size_t nbWithout)
 {
     std::string text = "category            added  overwritten     kept  ambiguous\n";
     for (const CImportCount& each : counts) {
@@ -127,10 +138,13 @@ static std::string tableOf(const std::vector<CImportCount>& counts)
         text += numbers;
         text += (each.ambiguous.empty() ? "" : "  " + quoted(each.ambiguous)) + "\n";
     }
+    if (nbWithout > 0)
+        text += "instances that came without their component: " + std::to_string(nbWithout) + "\n";
     return text;
 }
 
-static std::string jsonOf(const CImport& request, const std::vector<CImportCount>& counts)
+static std::string jsonOf(const CImport& request, const std::vector<CImportCount>& counts,
+                          std::size_t nbWithout)
 {
     ordered_json object = {{"reference", request.source},
                            {"into", request.destination},
@@ -143,6 +157,7 @@ static std::string jsonOf(const CImport& request, const std::vector<CImportCount
                                         {"overwritten", each.overwritten},
                                         {"kept", each.kept},
                                         {"ambiguous", each.ambiguous}});
+    object["instancesWithoutComponent"] = nbWithout;
     return jsonLine(object);
 }
 
@@ -164,21 +179,29 @@ static void switchMatrixOff(IZelMgr& document)
     document.setMatrix(matrix);
 }
 
+// The file is closed behind it, since it may be the one to replace.
+static void loadReference(CToolDocument& source, const std::string& file)
+{
+    CFileReadStream stream(file);
+    CNoMeshes noMeshes;
+    source.read(stream, file, &noMeshes);
+}
+
 void importCommand(const CImport& request, CToolOutput& output)
 {
     CToolDocument source;
     CToolDocument destination;
-    CFileReadStream stream(request.source);
-    CNoMeshes noMeshes;
-    source.read(stream, request.source, &noMeshes);
+    loadReference(source, request.source);
     loadForSave(destination, request.destination,
                 "zel rewrite --force makes a file to import into");
     warnOfLayers(request, *source);
     switchMatrixOff(*destination);
+    const std::vector<bool> without = instancesWithoutComponent(*destination);
     const std::vector<CImportCount> counts = importAll(*destination, *source, request.flags);
+    const std::size_t nbWithout = countWithout(*destination, without);
     if (!request.isDryRun)
         destination.save(request.out);
-    output.write(request.asJson ? jsonOf(request, counts) : tableOf(counts));
+    output.write(request.asJson ? jsonOf(request, counts, nbWithout) : tableOf(counts, nbWithout));
 }
 
 } // namespace tool

@@ -1,6 +1,6 @@
 #include "tools/CImportCount.h"
 
-#include "tools/forEach.h"
+#include "tools/CNames.h"
 
 #include <zel/IZelMgr.h>
 
@@ -96,6 +96,17 @@ CImportCount countInstances(IZelMgr& destination, IZelMgr& source)
     }
     count.kept = instances.getNbObjects() - count.overwritten;
     return count;
+}
+
+std::vector<bool> instancesWithoutComponent(IZelMgr& document)
+{
+    const CNames components(*document.getDefinitions());
+    std::vector<bool> without;
+    forEach(*document.getObjectInstances(), [&](IZelObjectInstance& instance, std::int32_t) {
+        const auto* placed = instance.asInternalComponentInstance();
+        without.push_back(placed && components.lacks(placed->getComponentUUID()));
+    });
+    return without;
 }
 
 // Layers only come along with their instances, and are never overwritten.

@@ -1,6 +1,7 @@
 #include "tools/commands.h"
 
 #include "tools/CFileReadStream.h"
+#include "tools/CFileRun.h"
 #include "tools/CToolOutput.h"
 #include "tools/THeld.h"
 #include "tools/eachFile.h"
@@ -78,18 +79,17 @@ static std::string versionText(const OvZel::CZelVersion& version)
            std::to_string(version.patch);
 }
 
-static std::string jsonText(const CInfo& info)
+static ordered_json objectOf(const CInfo& info)
 {
     ordered_json preview;
     if (info.width > 0 && info.height > 0)
         preview = {{"width", info.width}, {"height", info.height}};
-    const ordered_json object = {
+    return {
         {"file", info.file},         {"readability", static_cast<int>(info.readability)},
         {"accepted", info.accepted}, {"version", versionText(info.version)},
         {"label", info.label},       {"origin", {info.origin[0], info.origin[1], info.origin[2]}},
         {"uuid", info.uuid},         {"preview", preview},
     };
-    return jsonLine(object);
 }
 
 static std::string textLine(const CInfo& info)
@@ -99,19 +99,22 @@ static std::string textLine(const CInfo& info)
            "\n";
 }
 
-static EExit infoOfFile(const std::string& file, bool asJson, CToolOutput& output)
+static EExit infoOfFile(const CFileTask& task, bool asJson, CToolOutput& output)
 {
-    const CInfo info = probe(file);
-    output.write(asJson ? jsonText(info) : textLine(info));
+    const CInfo info = probe(task.file);
+    if (task.object)
+        *task.object = objectOf(info);
+    else
+        output.write(asJson ? jsonLine(objectOf(info)) : textLine(info));
     if (info.accepted)
         return eDone;
-    throw CToolError(eNotReadable, file + ": not readable");
+    throw CToolError(eNotReadable, task.file + ": not readable");
 }
 
-EExit infoCommand(const std::vector<std::string>& files, bool asJson, CToolOutput& output)
+EExit infoCommand(const CFileRun& run, CToolOutput& output)
 {
-    return eachFile(files,
-                    [&](const std::string& file) { return infoOfFile(file, asJson, output); });
+    return eachFile(
+        run, [&](const CFileTask& task) { return infoOfFile(task, run.asJson, output); }, output);
 }
 
 } // namespace tool

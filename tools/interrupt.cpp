@@ -27,6 +27,8 @@ void watchInterrupts()
 {
     watch(SIGINT);
     watch(SIGTERM);
+    // A write beyond the limit of the file size then fails like one to a full disk.
+    std::signal(SIGXFSZ, SIG_IGN);
 }
 
 bool isInterrupted()

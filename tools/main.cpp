@@ -1,7 +1,10 @@
+#include "tools/CFileRun.h"
 #include "tools/CToolOutput.h"
 #include "tools/commandLine.h"
 #include "tools/commands.h"
+#include "tools/fileRunOptions.h"
 #include "tools/interrupt.h"
+#include "tools/platform.h"
 
 #include <CLI/CLI.hpp>
 
@@ -14,10 +17,11 @@ namespace tool {
 
 // What stands on the command line, and what is to be done with it.
 struct CArguments {
-    std::vector<std::string> files;
+    CFileRun run;
     std::string in;
     std::string out;
     bool asJson = false;
+    std::uint32_t side = 0; ///< of a picture, 0 for any
     CRewrite rewrite;
     CFromModel fromModel;
     CShader shader;
@@ -29,13 +33,15 @@ struct CArguments {
 static void addInfo(CLI::App& app, CArguments& arguments, CToolOutput& output)
 {
     CLI::App* info = app.add_subcommand("info", "Tells about files without loading them");
-    info->add_flag("--json", arguments.asJson, "One JSON object for each file and line");
-    info->add_option("FILE", arguments.files, "Documents to look at")->required();
+    info->add_flag("--json", arguments.run.asJson, "One JSON object for each file and line");
+    addFiles(*info, arguments.run, "Documents to look at, folders, or - for a list on input");
     info->footer("Each line holds file, version, label and readability: no-document, older, "
                  "recent, same,\nnewer, newer-with-loss, too-new or other-application.\n\n"
+                 "find scenes -name '*.zel' -print0 | zel info -0 --jobs 8 - reads a list.\n\n"
                  "Example: zel info --json house.zel garden.zel");
     info->callback([&] {
-        arguments.command = [&] { return infoCommand(arguments.files, arguments.asJson, output); };
+        arguments.run.command = "info";
+        arguments.command = [&] { return infoCommand(arguments.run, output); };
     });
 }
 
@@ -59,37 +65,45 @@ static void addShow(CLI::App& app, CArguments& arguments, CToolOutput& output)
 static void addCheck(CLI::App& app, CArguments& arguments, CToolOutput& output)
 {
     CLI::App* check = app.add_subcommand("check", "Loads documents and tells what is odd in them");
-    check->add_flag("--json", arguments.asJson, "One JSON object for each finding and line");
-    check->add_option("FILE", arguments.files, "Documents to load")->required();
+    check->add_flag("--json", arguments.run.asJson,
+                    "One JSON object for each finding and line; with any of the options below or "
+                    "a list, for each file");
+    addFiles(*check, arguments.run, "Documents to load, folders, or - for a list on input");
     check->footer("Each line holds file, code and text of a finding. The codes:\n" +
                   findingCodes() +
                   "Exit codes: 0 no finding, 1 findings, 65 a file is not readable.\n\n"
                   "Example: zel check house.zel garden.zel");
     check->callback([&] {
-        arguments.command = [&] { return checkCommand(arguments.files, arguments.asJson, output); };
+        arguments.run.command = "check";
+        arguments.command = [&] { return checkCommand(arguments.run, output); };
     });
 }
 
 static void addPreview(CLI::App& app, CArguments& arguments)
 {
     CLI::App* preview = app.add_subcommand("preview", "Takes the preview picture out of a file");
+    preview->add_option("--size", arguments.side, "The most pixels a side; a larger one is shrunk")
+        ->check(CLI::Range(1, 65535))
+        ->type_name("PIXELS");
     preview->add_option("FILE", arguments.in, "The document")->required();
     preview->add_option("OUT.png", arguments.out, "The picture to write")->required();
     preview->footer("Example: zel preview house.zel house.png");
     preview->callback([&] {
         arguments.command = [&] {
-            previewCommand(arguments.in, arguments.out);
+            previewCommand(arguments.in, arguments.out, arguments.side);
             return eDone;
         };
     });
 }
 
-static void addRewrite(CLI::App& app, CArguments& arguments)
+static void addRewrite(CLI::App& app, CArguments& arguments, CToolOutput& output)
 {
     CLI::App* rewrite = app.add_subcommand("rewrite", "Loads a document and saves it");
-    addRewriteOptions(*rewrite, arguments.rewrite);
+    addRewriteOptions(*rewrite, arguments.rewrite, arguments.run);
     rewrite->callback([&] {
         arguments.command = [&] {
+            if (arguments.rewrite.isOfMany())
+                return rewriteFilesCommand(arguments.rewrite, arguments.run, output);
             rewriteCommand(arguments.rewrite);
             return eDone;
         };
@@ -209,13 +223,15 @@ static EExit stopParsing(const CLI::App& app, const CLI::ParseError& error, CToo
     return code == 0 ? eDone : eUsage;
 }
 
-static EExit run(int argc, char** argv, CToolOutput& output)
+static EExit run(const std::vector<std::string>& words, CToolOutput& output)
 {
     CLI::App app("Looks into, converts and rewrites ZEL scene documents.", "zel");
+    app.allow_windows_style_options(false); // a path may begin with a slash there too
     app.footer(
         "Exit codes: 0 done, 1 check has findings or diff has differences, 64 wrong usage, "
-        "65 not\nreadable, 74 a file can't be read or written, 130 and 143 stopped by Ctrl-C "
-        "or SIGTERM; the\noutput file is then as it was.\n"
+        "65 not\nreadable, 69 built without what it takes, 70 a worker process ended on a file, "
+        "74 a file can't\nbe read or written, 130 and 143 stopped by Ctrl-C or SIGTERM; the "
+        "output file is then as it\nwas. Of many files the highest.\n"
         "Output goes to standard output, messages to standard error.\n\n"
         "Example: zel info house.zel");
     app.require_subcommand(1);
@@ -224,14 +240,15 @@ static EExit run(int argc, char** argv, CToolOutput& output)
     addShow(app, arguments, output);
     addCheck(app, arguments, output);
     addPreview(app, arguments);
-    addRewrite(app, arguments);
+    addRewrite(app, arguments, output);
     addFromModel(app, arguments);
     addToModel(app, arguments);
     addShader(app, arguments);
     addImport(app, arguments, output);
     addDiff(app, arguments, output);
     try {
-        app.parse(argc, argv);
+        // Without the name of the program, and the last one first, as the parser takes them.
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend() - !words.empty()));
     } catch (const CLI::RequiredError& error) {
         // Behind a word that is no command, the command itself is what the parser misses first.
         const std::vector<std::string> unknown = app.remaining(true);
@@ -260,7 +277,7 @@ int main(int argc, char** argv)
     tool::watchInterrupts();
     tool::CToolOutput output;
     try {
-        return tool::run(argc, argv, output);
+        return tool::run(tool::programArguments(argc, argv), output);
     } catch (const tool::CToolError& error) {
         return failure(error.what(), error.code());
     } catch (const std::exception& error) {

@@ -5,12 +5,26 @@
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
-#include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace tool {
+
+std::vector<std::string> programArguments(int argc, char** argv)
+{
+    return {argv, argv + argc};
+}
+
+std::filesystem::path filePath(const std::string& name)
+{
+    return name;
+}
+
+std::string fileName(const std::filesystem::path& path)
+{
+    return path.native();
+}
 
 int takeStandardOutput()
 {

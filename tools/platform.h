@@ -1,12 +1,21 @@
 #pragma once
 
 #include <cstddef>
+#include <filesystem>
 #include <string>
+#include <vector>
 
 namespace tool {
 
 /// What the tool asks of the operating system beyond the standard library. Descriptors are plain
 /// numbers, -1 for none; after a failure lastFailure says why.
+
+/// What main was called with. Texts are UTF-8 on every system that has characters beyond bytes.
+std::vector<std::string> programArguments(int argc, char** argv);
+/// The path by which a file of that name is opened.
+std::filesystem::path filePath(const std::string& name);
+/// The name of a path, the inverse of filePath.
+std::string fileName(const std::filesystem::path& path);
 
 /// A duplicate of standard output; the descriptor itself leads to standard error from here on.
 int takeStandardOutput();

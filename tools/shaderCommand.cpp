@@ -61,9 +61,11 @@ static IZelProperty* findMaterial(OvZel::IZelMgr& document, const CShader& reque
 // whole property goes into an element for client data, which is part of no save.
 void exportShaderCommand(const CShader& request)
 {
-    CFileReadStream stream(request.file);
     CToolDocument document;
-    document.read(stream, request.file);
+    {
+        CFileReadStream stream(request.file);
+        document.read(stream, request.file);
+    }
     IZelProperty* property = findMaterial(*document, request);
     if (!property)
         failUnknown(request);

@@ -5,8 +5,8 @@
 #include "tools/CNoMeshes.h"
 #include "tools/CObjWriter.h"
 #include "tools/CToolDocument.h"
+#include "tools/platform.h"
 
-#include <filesystem>
 #include <optional>
 
 namespace tool {
@@ -34,7 +34,7 @@ static void readMeshes(CToolDocument& document, CFileReadStream& stream, CMeshSi
 
 static std::string mtlBeside(const std::string& obj)
 {
-    std::string mtl = std::filesystem::path(obj).replace_extension(".mtl").string();
+    std::string mtl = fileName(filePath(obj).replace_extension(".mtl"));
     return mtl == obj ? obj + ".mtl" : mtl;
 }
 
@@ -52,7 +52,7 @@ void toModelCommand(const std::string& in, const std::string& obj)
     if (!materials.text().empty()) {
         const std::string mtl = mtlBeside(obj);
         mtlFile.emplace(mtl).stream().writeText(materials.text());
-        file.stream().writeText("mtllib " + std::filesystem::path(mtl).filename().string() + "\n");
+        file.stream().writeText("mtllib " + fileName(filePath(mtl).filename()) + "\n");
     }
     CObjWriter writer(file.stream(), places, materials);
     CMeshSink sink(writer);

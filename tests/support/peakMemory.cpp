@@ -58,6 +58,11 @@ bool canMeterMemory()
 #endif
 }
 
+bool canMeterPeaks()
+{
+    return canMeterMemory();
+}
+
 std::size_t peakMemoryOf(const std::function<void()>& action)
 {
     int ends[2];

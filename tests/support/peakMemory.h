@@ -7,6 +7,8 @@ namespace ZelTest {
 
 /// Whether memory can be metered: not below the address sanitizer, which keeps what is freed.
 bool canMeterMemory();
+/// Whether peakMemoryOf works as well: it takes a fork.
+bool canMeterPeaks();
 
 /// How many bytes of address space more than before an action takes at its worst moment. The action
 /// runs in a process of its own, and what it throws or finds wrong ends that with an exception

@@ -1,0 +1,15 @@
+# zel_pick_sources(LIST): of name.cpp and name_windows.cpp, and of name_test.cpp and
+# name_windows_test.cpp, leaves the one of the target system.
+function(zel_pick_sources list)
+    set(sources ${${list}})
+    foreach(source IN LISTS ${list})
+        if(source MATCHES "^(.*)_windows(_test)?\\.cpp$")
+            if(WIN32)
+                list(REMOVE_ITEM sources ${CMAKE_MATCH_1}${CMAKE_MATCH_2}.cpp)
+            else()
+                list(REMOVE_ITEM sources ${source})
+            endif()
+        endif()
+    endforeach()
+    set(${list} ${sources} PARENT_SCOPE)
+endfunction()
