@@ -1,4 +1,5 @@
 #include "tests/support/CClientDocument.h"
+#include "tests/support/environment.h"
 #include "tests/support/smallScene.h"
 #include "tests/toolRun.h"
 
@@ -7,6 +8,7 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <locale>
+#include <stdexcept>
 
 // Numbers in files have a point, whatever the host program has set.
 
@@ -49,11 +51,11 @@ public:
 /// folder. Empty when neither is to be had.
 std::string commaLocale(const CTempFolder& folder)
 {
-    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8"})
+    for (const char* name : {"de_DE.UTF-8", "de_DE.utf8", "fr_FR.UTF-8", "fr_FR.utf8", "German"})
         if (std::setlocale(LC_ALL, name) != nullptr)
             return name;
     runProgram({"localedef", "-i", "de_DE", "-f", "UTF-8", folder.file("de_DE.UTF-8")});
-    setenv("LOCPATH", folder.file("").c_str(), 1);
+    ZelTest::setEnvironment("LOCPATH", folder.file("").c_str());
     const CLeakPause pause;
     const bool isMade = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
     return isMade ? "de_DE.UTF-8" : "";
@@ -108,7 +110,7 @@ protected:
     {
         std::locale::global(std::locale::classic());
         std::setlocale(LC_ALL, "C");
-        unsetenv("LOCPATH");
+        ZelTest::setEnvironment("LOCPATH", nullptr);
     }
 
     void expectNoChange() const
@@ -154,7 +156,11 @@ TEST_F(Locale, ACommaInCChangesNothing)
     expectNoChange();
     {
         const CLeakPause pause;
-        std::locale::global(std::locale(name.c_str()));
+        try {
+            std::locale::global(std::locale(name.c_str()));
+        } catch (const std::runtime_error&) {
+            return; // on Windows C++ has no locale but the classic one
+        }
     }
     expectNoChange();
 }

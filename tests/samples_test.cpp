@@ -187,7 +187,9 @@ TEST(EarlySample, ItsValuesArriveInTheFormOfToday)
     };
     const std::set<std::string> before = leavesOf(given), after = leavesOf(saved);
     for (const std::string& leaf : before) {
-        const bool isColour = testing::Matches(testing::ContainsRegex("^<(Red|Green|Blue)>"))(leaf);
+        const bool isColour = testing::Matches(testing::AnyOf(testing::StartsWith("<Red>"),
+                                                              testing::StartsWith("<Green>"),
+                                                              testing::StartsWith("<Blue>")))(leaf);
         const auto* row = std::find_if(std::begin(changed), std::end(changed),
                                        [&](const auto& each) { return each.early == leaf; });
         EXPECT_TRUE(row != std::end(changed) || isColour || after.count(leaf) == 1) << leaf;

@@ -142,15 +142,6 @@ TEST_F(ToolCheck, TheWorstFileDecidesTheExitCode)
     EXPECT_EQ(runTool({"check", mFolder.file("missing"), text}).code, 74);
 }
 
-TEST_F(ToolCheck, AMessageThatCannotBeWrittenIsAnError)
-{
-    const std::string file =
-        mFolder.put("in.zel", minimalWith("<Foreign><![CDATA[ a ]]></Foreign>"));
-    const CRun run =
-        runProgram({"sh", "-c", "exec \"$0\" \"$@\" >/dev/full", toolPath(), "check", file});
-    EXPECT_EQ(run.code, 74);
-}
-
 TEST_F(ToolCheck, ShowOutlinesADocument)
 {
     const std::string legacy = sample("legacy.zel");

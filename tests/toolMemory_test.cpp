@@ -32,7 +32,7 @@ std::string terrain(int side)
 
 TEST(ToolMemory, AMeshIsNeverInTheDocument)
 {
-    if (!ZelTest::canMeterMemory())
+    if (!ZelTest::canMeterPeaks())
         GTEST_SKIP() << "the sanitizer keeps what is freed";
     const CTempFolder folder;
     const auto peaks = [&](int side, bool isFlat) {
