@@ -1,15 +1,7 @@
 #include "core/largePages.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <cstdlib>
-#include <cstring>
-
-#if __has_include(<sys/mman.h>)
 #include <sys/mman.h>
-#endif
-
-#ifdef MADV_HUGEPAGE
 
 namespace {
 
@@ -59,41 +51,4 @@ void* takeLargeArea(std::size_t size) noexcept
 void returnLargeArea(void* begin, std::size_t size) noexcept
 {
     munmap(begin, wholePages(size));
-}
-
-#else
-
-void adviseLargePages(void*, std::size_t) noexcept {}
-
-void* takeLargeArea(std::size_t size) noexcept
-{
-    return std::malloc(size);
-}
-
-void returnLargeArea(void* begin, std::size_t) noexcept
-{
-    std::free(begin);
-}
-
-#endif
-
-void* resizeBuffer(void* buffer, std::size_t oldSize, std::size_t newSize) noexcept
-{
-    if (oldSize < kLargeArea && newSize < kLargeArea)
-        return std::realloc(buffer, newSize);
-    void* const moved = newSize < kLargeArea ? std::malloc(newSize) : takeLargeArea(newSize);
-    if (moved == nullptr)
-        return nullptr;
-    if (buffer != nullptr)
-        std::memcpy(moved, buffer, std::min(oldSize, newSize));
-    freeBuffer(buffer, oldSize);
-    return moved;
-}
-
-void freeBuffer(void* buffer, std::size_t size) noexcept
-{
-    if (size < kLargeArea)
-        std::free(buffer);
-    else
-        returnLargeArea(buffer, size);
 }
