@@ -13,6 +13,7 @@
 #include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -227,6 +228,36 @@ TEST_F(ToolBatchWorkers, AStopEndsAllWorkersAndLeavesTheTargets)
     }
 }
 
+TEST_F(ToolBatchWorkers, AStopWhileAListIsReadIsAboutNoFile)
+{
+    const std::string input = mFolder.file("input");
+    EXPECT_EQ(mkfifo(input.c_str(), 0600), 0);
+    const std::string text = put("a.zel") + "\n" + put("b.zel") + "\nhalf a pa";
+    for (const std::vector<std::string>& way :
+         {std::vector<std::string>{}, {"--jobs", "1"}, {"--jobs", "2"}}) {
+        const int list = open(input.c_str(), O_RDWR | O_CLOEXEC);
+        EXPECT_EQ(write(list, text.data(), text.size()), static_cast<ssize_t>(text.size()));
+        std::vector<std::string> arguments = {"info", "--json", "--resume", mLog, "-"};
+        arguments.insert(arguments.end(), way.begin(), way.end());
+        const pid_t process = startTool(
+            arguments, {{STDIN_FILENO, input}, {STDOUT_FILENO, mOutput}, {STDERR_FILENO, mErrors}});
+        int nbLeft = 1;
+        EXPECT_TRUE(waitFor(process, [&] {
+            return ioctl(list, FIONREAD, &nbLeft) == 0 && nbLeft == 0 && isHeld(process, SIGTERM);
+        }));
+        kill(process, SIGTERM);
+        EXPECT_EQ(exitCode(process), 143);
+        close(list);
+        EXPECT_THAT(contents(mErrors), IsEmpty());
+        EXPECT_THAT(contents(mOutput), testing::Not(HasSubstr("error")));
+        const std::string noted = contents(mLog);
+        EXPECT_EQ(nbLines(noted), nbLines(contents(mOutput)) + 1);
+        EXPECT_THAT(noted, testing::Not(HasSubstr("74\t")));
+        for (const std::string& file : {mLog, mOutput, mErrors})
+            fs::remove(file);
+    }
+}
+
 TEST_F(ToolBatchWorkers, AWorkerThatHangsIsEnded)
 {
     if (!std::getenv("ZEL_TEST_FULL"))
@@ -267,10 +298,10 @@ TEST_F(ToolBatchWorkers, MemoryDoesNotGrowWithTheNumberOfFiles)
         fs::remove(mLog);
         const int list = open(input.c_str(), O_RDWR | O_CLOEXEC);
         std::vector<std::string> arguments = way;
-        arguments.insert(arguments.end(), {"--resume", mLog, "-"});
+        arguments.insert(arguments.end(), {"--json", "--resume", mLog, "-"});
         const pid_t process = startTool(
             arguments, {{STDIN_FILENO, input}, {STDOUT_FILENO, mOutput}, {STDERR_FILENO, mErrors}});
-        // The last few of the files may wait for the path behind them.
+        // One file of each worker may wait for the path behind them.
         const auto peakAfter = [&](std::size_t begin, std::size_t end) {
             for (std::size_t i = begin; i < end; ++i) {
                 const std::string line = files[i] + "\n";

@@ -145,6 +145,24 @@ TEST_F(ToolBatch, TakesListsOnStandardInput)
     EXPECT_EQ(runOn("", {"info", "-"}).code, 0);
 }
 
+// As the paths would run into each other, and a worker would answer for each.
+TEST_F(ToolBatch, AListWithNullBytesNeedsItsOption)
+{
+    const std::string list = mFound[0] + '\0' + mFound[1] + '\0' + mFound[2] + "\n";
+    for (const auto& way : mWays) {
+        const CRun run = runOn(list, std::vector<std::string>{"info", "-"} + way);
+        EXPECT_EQ(run.code, 64);
+        EXPECT_THAT(run.output, IsEmpty());
+        EXPECT_EQ(run.messages, "zel: a list with null bytes in it needs the option --null\n");
+    }
+}
+
+TEST_F(ToolBatch, AComplaintIsOneLineWhateverTheName)
+{
+    EXPECT_THAT(runTool({"info", "no\nsuch\x1b[2Jfile"}).messages,
+                testing::StartsWith("zel: no?such?[2Jfile: can't open: "));
+}
+
 TEST_F(ToolBatch, ANameMayHaveALineEnd)
 {
     const std::string odd = put("s/o\nd\\n.zel");
@@ -264,6 +282,20 @@ TEST_F(ToolBatch, ShardsPartTheFiles)
     }
 }
 
+TEST_F(ToolBatch, AShardMayBeEmpty)
+{
+    const std::string log = path("log");
+    std::size_t nb = 0;
+    for (const char* const shard : {"1/3", "2/3", "3/3"}) {
+        fs::remove(log);
+        const CRun run = runTool({"info", "--shard", shard, "--resume", log, mFound[0]});
+        EXPECT_EQ(run.code, 0) << run.messages;
+        EXPECT_EQ(loggedCodes(contents(log)).size(), lines(run.output).size());
+        nb += lines(run.output).size();
+    }
+    EXPECT_EQ(nb, 1U);
+}
+
 // Other versions and other machines must agree.
 TEST_F(ToolBatch, TheShardOfAPathIsForEver)
 {
@@ -338,6 +370,31 @@ TEST_F(ToolBatch, ResumeToleratesALineThatIsCutShort)
     }
 }
 
+TEST_F(ToolBatch, ResumeIsOfOneWayToRewrite)
+{
+    const std::string log = path("log");
+    const std::string file = mFound[0];
+    const std::string out = path("o\nut");
+    const std::vector<std::vector<std::string>> ways = {
+        {"--in-place"},           {"--in-place", "--force"},
+        {"--in-place", "--bare"}, {"--in-place", "--min-version", "6.0.0"},
+        {"--output-dir", out},
+    };
+    const std::vector<std::string> command = {"rewrite", "--json", "--resume", log, file};
+    for (const auto& way : ways) {
+        fs::remove(log);
+        EXPECT_EQ(codesOf(runTool(command + way).output), (CCodes{{file, 0}}));
+        const std::string noted = contents(log);
+        EXPECT_EQ(lines(noted).size(), 2U) << noted;
+        for (const auto& other : ways) {
+            const CRun run = runTool(command + other);
+            EXPECT_EQ(run.code, other == way ? 0 : 64) << noted << testing::PrintToString(other);
+            EXPECT_THAT(run.output, IsEmpty());
+            EXPECT_EQ(contents(log), noted);
+        }
+    }
+}
+
 TEST_F(ToolBatch, RewritesInPlaceOrBelowAFolder)
 {
     const std::string house = contents(sample("house.zel"));
@@ -384,7 +441,10 @@ TEST_F(ToolBatch, AFileKeepsItsPathBelowTheFolder)
         {"m/deep/../../a.zel", "a.zel"},
         {"../s/a.zel", nullptr},
         {"m/../../s/a.zel", nullptr},
+        {"m/loop/../top.zel", nullptr}, // by the link it is not in m
+        {"m/loop/a.zel", "m/loop/a.zel"},
     };
+    put("top.zel");
     for (const auto& [file, target] : cases) {
         fs::remove_all(path("out"));
         const CRun run =
@@ -395,6 +455,28 @@ TEST_F(ToolBatch, AFileKeepsItsPathBelowTheFolder)
             EXPECT_TRUE(fs::is_regular_file(path("out/") + target)) << file;
         else
             EXPECT_FALSE(fs::exists(path("out"))) << file;
+    }
+}
+
+TEST_F(ToolBatch, NoTwoFilesGetOnePlaceBelowTheFolder)
+{
+    for (const auto& way : mWays) {
+        fs::remove_all(path("out"));
+        // /x/a.zel and x/a.zel would.
+        const CRun run =
+            runProgram(std::vector<std::string>{
+                           "sh", "-c",
+                           "cd \"$1\" && shift && exec \"$0\" rewrite --output-dir ../out "
+                           "--json \"$@\"",
+                           toolPath(), mRoot, "a.zel", mFound[4], "n.zel"} +
+                       way);
+        EXPECT_EQ(run.code, 74);
+        EXPECT_EQ(codesOf(run.output), (CCodes{{"a.zel", 0}, {mFound[4], 74}, {"n.zel", 0}}));
+        EXPECT_EQ(run.messages,
+                  "zel: " + mFound[4] + ": is a whole path, unlike those ahead of it\n");
+        EXPECT_TRUE(fs::exists(path("out/a.zel")));
+        EXPECT_TRUE(fs::exists(path("out/n.zel")));
+        EXPECT_FALSE(fs::exists(path("out") + mFound[4]));
     }
 }
 
@@ -432,7 +514,7 @@ TEST_F(ToolBatch, RefusesWhatMakesNoSense)
     const std::vector<std::vector<std::string>> cases = {
         {"info", "--recursive"},
         {"info", "--jobs", "0", in},
-        {"info", "--jobs", "1025", in},
+        {"info", "--jobs", "513", in},
         {"info", "--jobs", "two", in},
         {"info", "--shard", "0/2", in},
         {"info", "--shard", "3/2", in},
@@ -443,6 +525,8 @@ TEST_F(ToolBatch, RefusesWhatMakesNoSense)
         {"info", "--resume", path("missing/log"), in},
         {"rewrite", "--in-place"},
         {"rewrite", "--in-place", "--output-dir", out, in},
+        {"rewrite", "--output-dir", "", in, out}, // not a save of one file as the other
+        {"info", in, "--resume", ""},
         {"rewrite", "--recursive", mRoot, out},
         {"rewrite", "--json", in, out},
         {"rewrite", "--jobs", "2", in, out},
@@ -462,6 +546,44 @@ TEST_F(ToolBatch, AFullDiskStopsTheRun)
         {"sh", "-c", "exec \"$0\" info \"$1\" \"$1\" > /dev/full", toolPath(), mFound[0]});
     EXPECT_EQ(run.code, 74);
     EXPECT_EQ(lines(run.messages).size(), 1U) << run.messages;
+}
+
+TEST_F(ToolBatch, AFullDiskOfTheLogStopsTheRun)
+{
+    constexpr int kNb = 60;
+    std::string list;
+    for (int i = 0; i < kNb; ++i)
+        list += put("s/" + std::to_string(i) + ".zel") + "\n";
+    const std::string input = mFolder.put("list", list);
+    const std::string log = path("log");
+    for (const auto& way : mWays) {
+        fs::remove(log);
+        // One block is 512 or 1024 bytes.
+        const CRun run =
+            runProgram(std::vector<std::string>{"sh", "-c",
+                                                "ulimit -f 1; in=$1; shift; exec \"$0\" info "
+                                                "--resume \"$@\" - < \"$in\" > /dev/null",
+                                                toolPath(), input, log} +
+                       way);
+        EXPECT_EQ(run.code, 74);
+        EXPECT_THAT(run.messages, testing::StartsWith("zel: " + log + ": can't write: "));
+        EXPECT_EQ(lines(run.messages).size(), 1U) << run.messages;
+        const std::size_t nbDone = loggedCodes(contents(log)).size();
+        EXPECT_GT(nbDone, 1U);
+        EXPECT_LT(nbDone, static_cast<std::size_t>(kNb));
+        EXPECT_EQ(runOn(list, std::vector<std::string>{"info", "--resume", log, "-"} + way).code,
+                  0);
+        EXPECT_EQ(lines(contents(log)).size(), kNb + 1U); // each once, the head, and no pieces
+    }
+}
+
+TEST_F(ToolBatch, FewFilesMayBeOpen)
+{
+    const CRun run =
+        runProgram({"sh", "-c", "ulimit -n 64; exec timeout 20 \"$0\" info --jobs 512 $1",
+                    toolPath(), mFound[0]});
+    EXPECT_EQ(run.code, 0) << run.messages;
+    EXPECT_EQ(namesIn(run.output), (std::vector<std::string>{mFound[0]}));
 }
 
 TEST_F(ToolBatch, ABigFolderComesInOrderToo)

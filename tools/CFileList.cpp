@@ -14,10 +14,12 @@ bool readPath(char separator, std::string& path)
 {
     path.clear();
     for (int c = std::getc(stdin); c != EOF; c = std::getc(stdin)) {
+        if (c == separator && !path.empty())
+            return true;
+        if (c == '\0' && separator != '\0')
+            throw CRunError(eUsage, "a list with null bytes in it needs the option --null");
         if (c != separator)
             path += static_cast<char>(c);
-        else if (!path.empty())
-            return true;
     }
     checkInterrupt();
     if (std::ferror(stdin))
@@ -25,7 +27,7 @@ bool readPath(char separator, std::string& path)
     return !path.empty(); // the last one needs no separator
 }
 
-CFileList::CFileList(const CFileRun& run) : mRun(run), mWalk(run.skippedFolder) {}
+CFileList::CFileList(const CFileRun& run) : mRun(run), mWalk(run.outputDir) {}
 
 bool CFileList::nextGiven(std::string& path)
 {
@@ -56,6 +58,18 @@ bool CFileList::nextOfAll(CListedFile& file)
     return true;
 }
 
+// Below a folder /a.zel and a.zel would get one place.
+void CFileList::checkStart(CListedFile& file)
+{
+    if (mRun.outputDir.empty() || !file.failure.empty())
+        return;
+    const bool isWhole = plainPath(file.path).has_root_directory();
+    if (mIsWhole.value_or(isWhole) != isWhole)
+        file.failure = file.path + (isWhole ? ": is a whole path, unlike those ahead of it"
+                                            : ": is no whole path, unlike those ahead of it");
+    mIsWhole = mIsWhole.value_or(isWhole);
+}
+
 bool CFileList::isInShard(const std::string& path) const
 {
     return mRun.nbShards == 0 || stableHash(path) % mRun.nbShards == mRun.shard;
@@ -70,8 +84,10 @@ bool CFileList::next(CListedFile& file)
         } catch (const CRunError&) {
             throw;
         } catch (const CToolError& error) {
+            checkInterrupt(); // is about no file
             file.failure = error.what();
         }
+        checkStart(file);
         if (isInShard(file.path))
             return true;
     }

@@ -3,6 +3,7 @@
 #include "tools/CFolderWalk.h"
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace tool {
@@ -28,16 +29,19 @@ public:
 private:
     bool nextOfAll(CListedFile& file);
     bool nextGiven(std::string& path);
+    void checkStart(CListedFile& file);
     bool isInShard(const std::string& path) const;
 
     const CFileRun& mRun;
     CFolderWalk mWalk;
     std::size_t mNbTaken = 0;
     bool mIsInInput = false;
+    std::optional<bool> mIsWhole; // the first path
 };
 
 /// Takes a path from standard input, up to the separator; false at its end. Paths of no bytes are
-/// left out. Throws CRunError when standard input can't be read, or what checkInterrupt throws.
+/// left out. Throws CRunError when standard input can't be read (eIoError) or has null bytes that
+/// are no separators (eUsage), or what checkInterrupt throws.
 bool readPath(char separator, std::string& path);
 
 } // namespace tool

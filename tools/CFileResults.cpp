@@ -26,7 +26,7 @@ CFileResults::CFileResults(const CFileRun& run, CToolOutput& output) : mOutput(o
 {
     if (run.log.empty())
         return;
-    mLog.emplace(run.log, run.command);
+    mLog.emplace(run);
     mWorst = mLog->getWorst();
 }
 

@@ -16,14 +16,15 @@ struct CFileRun {
     std::uint32_t shard = 0;        ///< from 0
     std::uint32_t nbShards = 0;     ///< 0 for all files
     std::string log;                ///< of the files that are done, or empty for none
-    std::string skippedFolder;      ///< a folder that a walk leaves out, or empty for none
+    std::string outputDir;          ///< for a file of each path, left out of walks; empty for none
     bool asJson = false;
+    bool hasOneFormOfJson = false; ///< prints objects about a few named files too
     bool isWorker = false; ///< takes paths from another process of the tool, and answers to it
     std::vector<std::string> workerArguments; ///< what the command of a worker is told besides
 
     /// Whether one JSON object tells all about a file. A command on a few named files that prints
     /// something else as JSON keeps doing so.
-    bool givesObjects() const { return asJson && isOfMany(); }
+    bool givesObjects() const { return asJson && (hasOneFormOfJson || isOfMany()); }
     /// Whether any of the options for many files is used.
     bool isOfMany() const;
 };

@@ -1,5 +1,6 @@
 #include "tools/CResumeLog.h"
 
+#include "tools/CFileRun.h"
 #include "tools/platform.h"
 #include "tools/stableHash.h"
 
@@ -81,11 +82,20 @@ std::uintmax_t CResumeLog::read(const std::string& head)
     return size;
 }
 
-CResumeLog::CResumeLog(const std::string& path, const std::string& command) : mPath(path)
+// With another folder for the output, say, or where more is forced, nothing would be done yet.
+static std::string headOf(const CFileRun& run)
 {
-    const std::string head = "zel " + command;
+    std::string head = "zel " + run.command;
+    for (const std::string& argument : run.workerArguments)
+        head += ' ' + escaped(argument);
+    return head;
+}
+
+CResumeLog::CResumeLog(const CFileRun& run) : mPath(run.log)
+{
+    const std::string head = headOf(run);
     const std::uintmax_t size = read(head);
-    const std::filesystem::path file = filePath(path);
+    const std::filesystem::path file = filePath(mPath);
     std::error_code error;
     if (std::filesystem::exists(file, error) && std::filesystem::file_size(file, error) > size)
         std::filesystem::resize_file(file, size, error);
@@ -93,7 +103,7 @@ CResumeLog::CResumeLog(const std::string& path, const std::string& command) : mP
     if (size == 0)
         mFile << head << '\n' << std::flush;
     if (error || !mFile)
-        throw CRunError(eIoError, path + ": can't write: " + lastFailure());
+        throw CRunError(eIoError, mPath + ": can't write: " + lastFailure());
 }
 
 bool CResumeLog::has(const std::string& file) const

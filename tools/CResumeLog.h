@@ -10,16 +10,19 @@
 
 namespace tool {
 
+struct CFileRun;
+
 /// The files that earlier runs of a command are done with, and those of this one.
 ///
-/// The first line of the log names the command, each line behind it holds an exit code and a path,
-/// in which a line end stands as "\n" and a backslash as "\\". A line that a kill cut short is
-/// taken away. What failed for a reason that may pass, such as a disk, counts as not done.
+/// The first line of the log names the command with what it was told about each file, each line
+/// behind it holds an exit code and a path, in which a line end stands as "\n" and a backslash as
+/// "\\". A line that a kill cut short is taken away. What failed for a reason that may pass, such
+/// as a disk, counts as not done.
 class CResumeLog {
 public:
-    /// Reads the log, which need not exist yet, and opens it for what follows. Throws CRunError:
-    /// eUsage for a log of another command or another kind of file, eIoError.
-    CResumeLog(const std::string& path, const std::string& command);
+    /// Reads the log of the run, which need not exist yet, and opens it for what follows. Throws
+    /// CRunError: eUsage for the log of another command or another kind of file, eIoError.
+    CResumeLog(const CFileRun& run);
 
     /// Whether an earlier run is done with the file. 16 bytes of memory stand for each such file.
     bool has(const std::string& file) const;

@@ -1,12 +1,14 @@
 #include "tools/CToolError.h"
 
+#include "tools/oneLine.h"
+
 #include <cstdio>
 
 namespace tool {
 
 void complain(const std::string& text)
 {
-    std::fputs(("zel: " + text + '\n').c_str(), stderr); // in one piece
+    std::fputs(("zel: " + oneLine(text) + '\n').c_str(), stderr); // in one piece
 }
 
 } // namespace tool

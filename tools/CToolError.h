@@ -35,7 +35,7 @@ public:
     using CToolError::CToolError;
 };
 
-/// Puts one line on standard error.
+/// Puts one line on standard error, whatever the names in the text hold.
 void complain(const std::string& text);
 
 } // namespace tool

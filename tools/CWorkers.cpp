@@ -122,26 +122,40 @@ std::string CWorkers::finish(CWorker& worker)
 
 CWorkers::CNews CWorkers::wait()
 {
+    // Those that run alone, since a system takes no more entries than a process may have open
+    // files.
     std::vector<pollfd> polled;
-    for (const CWorker& worker : mWorkers)
-        polled.push_back({worker.descriptor, POLLIN, 0}); // one of -1 is passed over
+    std::vector<std::size_t> numbers;
+    for (std::size_t i = 1; i <= mWorkers.size(); ++i) {
+        // The one that was heard last comes last, or others might never be heard.
+        const std::size_t number = (mHeardLast + i) % mWorkers.size();
+        if (mWorkers[number].process < 0)
+            continue;
+        polled.push_back({mWorkers[number].descriptor, POLLIN, 0});
+        numbers.push_back(number);
+    }
     while (!isInterrupted()) {
         // Not for ever: a signal may arrive just ahead of the call.
-        if (::poll(polled.data(), polled.size(), 1000) < 0)
-            continue;
-        for (std::size_t i = 0; i < polled.size(); ++i) {
-            if (polled[i].revents == 0)
-                continue;
-            char bytes[65536];
-            const ssize_t nb = ::recv(polled[i].fd, bytes, sizeof bytes, 0);
-            if (nb < 0 && errno == EINTR)
-                continue;
-            if (nb > 0)
-                return {static_cast<int>(i), std::string(bytes, static_cast<std::size_t>(nb)), {}};
-            return {static_cast<int>(i), {}, finish(mWorkers[i])};
-        }
+        if (::poll(polled.data(), polled.size(), 1000) < 0 && errno != EINTR)
+            throw CRunError(eIoError, std::string("can't wait: ") + std::strerror(errno));
+        for (std::size_t i = 0; i < polled.size(); ++i)
+            if (polled[i].revents != 0)
+                return receive(mHeardLast = numbers[i]);
     }
     return {};
+}
+
+CWorkers::CNews CWorkers::receive(std::size_t number)
+{
+    CWorker& sender = mWorkers[number];
+    const int worker = static_cast<int>(number);
+    char bytes[65536];
+    const ssize_t nb = ::recv(sender.descriptor, bytes, sizeof bytes, MSG_DONTWAIT);
+    if (nb > 0)
+        return {worker, std::string(bytes, static_cast<std::size_t>(nb)), {}};
+    if (nb < 0 && (errno == EINTR || errno == EAGAIN))
+        return {worker, {}, {}};
+    return {worker, {}, finish(sender)};
 }
 
 // Reads and forgets until the worker ends; false when it takes too long.

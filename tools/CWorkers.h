@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -28,7 +29,7 @@ public:
 
     struct CNews {
         int worker = -1;   ///< -1 for none: this process is asked to stop
-        std::string bytes; ///< of its answer, or none once it has ended
+        std::string bytes; ///< of its answer; none, with an end, once it has ended
         std::string end;   ///< how it ended, such as "ended by signal 9 (Killed)"
     };
 
@@ -46,10 +47,12 @@ private:
     };
 
     void start(CWorker& worker);
+    CNews receive(std::size_t number);
     std::string finish(CWorker& worker);
 
     std::vector<std::string> mArguments;
     std::vector<CWorker> mWorkers;
+    std::size_t mHeardLast = 0;
 };
 
 } // namespace tool

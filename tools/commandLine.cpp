@@ -3,6 +3,7 @@
 #include "tools/CFileRun.h"
 #include "tools/commands.h"
 #include "tools/fileRunOptions.h"
+#include "tools/oneLine.h"
 
 #include <zel/IZelMgr.h>
 
@@ -36,10 +37,7 @@ static std::vector<std::string> workerArguments(const CRewrite& request)
 {
     std::vector<std::string> arguments;
     if (const auto& version = request.minVersion)
-        arguments.insert(arguments.end(),
-                         {"--min-version", std::to_string(version->major) + "." +
-                                               std::to_string(version->minor) + "." +
-                                               std::to_string(version->patch)});
+        arguments.insert(arguments.end(), {"--min-version", versionText(*version)});
     if (request.bare)
         arguments.push_back("--bare");
     if (request.force)
@@ -62,8 +60,9 @@ static void takeFiles(CRewrite& request, CFileRun& run)
         if (run.files.empty() && !run.isWorker)
             throw CLI::RequiredError("FILE");
         run.command = "rewrite";
+        run.hasOneFormOfJson = true;
         run.workerArguments = workerArguments(request);
-        run.skippedFolder = request.outputDir;
+        run.outputDir = request.outputDir;
         return;
     }
     if (run.isOfMany() || run.asJson)
@@ -95,6 +94,7 @@ void addRewriteOptions(CLI::App& rewrite, CRewrite& request, CFileRun& run)
     rewrite
         .add_option("--output-dir", request.outputDir, "Save each FILE under its path below DIR")
         ->excludes(inPlace)
+        ->check(isNamed)
         ->type_name("DIR");
     rewrite.add_flag("--json", run.asJson, "One JSON object for each FILE and line");
     addFileRunOptions(rewrite, run);

@@ -20,14 +20,19 @@ static bool takeShard(const std::string& text, CFileRun& run)
     return nextError == std::errc() && behind == end && shard >= 1 && shard <= run.nbShards;
 }
 
+std::string isNamed(const std::string& name)
+{
+    return name.empty() ? "the name is empty" : "";
+}
+
 void addFileRunOptions(CLI::App& command, CFileRun& run)
 {
     command.add_flag("--recursive", run.isRecursive,
                      "Take the files *.zel of folders and of the folders in them");
     command.add_flag("-0,--null", run.isNullSeparated,
                      "The paths of the list on standard input end with null bytes");
-    command.add_option("--jobs", run.nbJobs, "Work with so many processes, 1 to 1024")
-        ->check(CLI::Range(1, 1024))
+    command.add_option("--jobs", run.nbJobs, "Work with so many processes, 1 to 512")
+        ->check(CLI::Range(1, 512)) // many systems allow a process 1024 open files
         ->type_name("N");
     command.add_option("--shard", "Take the files of part I out of N alone")
         ->check([&run](const std::string& text) {
@@ -35,6 +40,7 @@ void addFileRunOptions(CLI::App& command, CFileRun& run)
         })
         ->type_name("I/N");
     command.add_option("--resume", run.log, "Note in LOG what is done, and leave out what was")
+        ->check(isNamed)
         ->type_name("LOG");
     command.add_flag("--worker", run.isWorker)->group(""); // for the tool itself
 }

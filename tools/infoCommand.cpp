@@ -73,12 +73,6 @@ static CInfo probe(const std::string& file)
     return info;
 }
 
-static std::string versionText(const OvZel::CZelVersion& version)
-{
-    return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
-           std::to_string(version.patch);
-}
-
 static ordered_json objectOf(const CInfo& info)
 {
     ordered_json preview;

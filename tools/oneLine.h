@@ -1,6 +1,7 @@
 #pragma once
 
 #include <zel/CZelUUID.h>
+#include <zel/CZelVersion.h>
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -29,6 +30,12 @@ inline std::string idText(const OvZel::CZelUUID& id)
     char text[33];
     id.toText(text);
     return text;
+}
+
+inline std::string versionText(const OvZel::CZelVersion& version)
+{
+    return std::to_string(version.major) + "." + std::to_string(version.minor) + "." +
+           std::to_string(version.patch);
 }
 
 } // namespace tool

@@ -37,12 +37,15 @@ void rewriteCommand(const CRewrite& request)
 // The path as given, below the folder: no two files get one target.
 static std::string targetBelow(const std::string& folder, const std::string& file)
 {
-    const fs::path path = filePath(file).lexically_normal().relative_path();
+    const fs::path path = rootlessPath(file);
     if (!path.empty() && *path.begin() == "..")
         throw CToolError(eIoError, file + ": would leave the folder of the output");
-    const fs::path target = filePath(folder) / path;
+    const std::string normal = fileName(plainPath(file).lexically_normal());
     std::error_code error;
-    fs::create_directories(target.parent_path(), error);
+    if (!fs::equivalent(filePath(file), filePath(normal), error) && !error)
+        throw CToolError(eIoError, file + ": goes back behind a link to a folder");
+    const fs::path target = plainPath(folder) / path;
+    fs::create_directories(filePath(fileName(target.parent_path())), error);
     if (error)
         throw CToolError(eIoError, fileName(target) + ": can't write: " + error.message());
     return fileName(target);
