@@ -31,7 +31,15 @@ static HANDLE createOutput(const std::string& path)
                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-static HANDLE start(const std::vector<std::string>& arguments, HANDLE output, HANDLE messages)
+static HANDLE openInput(const std::string& path)
+{
+    SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+    return CreateFileW(wide(path).c_str(), GENERIC_READ, FILE_SHARE_READ, &inherited, OPEN_EXISTING,
+                       FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+static HANDLE start(const std::vector<std::string>& arguments, HANDLE input, HANDLE output,
+                    HANDLE messages)
 {
     std::wstring line;
     for (const std::string& argument : arguments)
@@ -39,7 +47,7 @@ static HANDLE start(const std::vector<std::string>& arguments, HANDLE output, HA
     STARTUPINFOW startup = {};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    startup.hStdInput = input != nullptr ? input : GetStdHandle(STD_INPUT_HANDLE);
     startup.hStdOutput = output;
     startup.hStdError = messages;
     PROCESS_INFORMATION process = {};
@@ -50,13 +58,16 @@ static HANDLE start(const std::vector<std::string>& arguments, HANDLE output, HA
     return process.hProcess;
 }
 
-CRun runProgram(std::vector<std::string> arguments)
+CRun runProgram(std::vector<std::string> arguments, const std::optional<std::string>& input)
 {
     const CTempFolder folder;
     const HANDLE output = createOutput(folder.file("output"));
     const HANDLE messages = createOutput(folder.file("messages"));
-    const HANDLE process = start(arguments, output, messages);
+    const HANDLE in = input ? openInput(folder.put("input", *input)) : nullptr;
+    const HANDLE process = start(arguments, in, output, messages);
     const DWORD failure = GetLastError();
+    if (in != nullptr)
+        CloseHandle(in);
     CloseHandle(output);
     CloseHandle(messages);
     if (!process)

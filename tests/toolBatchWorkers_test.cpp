@@ -1,5 +1,4 @@
-// Without the tool there is nothing to test; processes are looked at by way of /proc.
-#if defined(ZEL_TOOL) && !defined(_WIN32)
+#ifdef ZEL_TOOL // without the tool there is nothing to test; processes are looked at in /proc
 
 #include "tests/toolProcess.h"
 #include "tests/toolRun.h"

@@ -1,5 +1,4 @@
-// Without the tool there is nothing to test; lists on standard input come from a shell.
-#if defined(ZEL_TOOL) && !defined(_WIN32)
+#ifdef ZEL_TOOL // without the tool there is nothing to test
 
 #include "tests/toolRun.h"
 
@@ -88,13 +87,9 @@ protected:
     }
 
     /// Runs the tool with a text as its standard input.
-    CRun runOn(const std::string& input, const std::vector<std::string>& arguments) const
+    static CRun runOn(const std::string& input, const std::vector<std::string>& arguments)
     {
-        const std::string list = mFolder.put("list", input);
-        return runProgram(std::vector<std::string>{"sh", "-c",
-                                                   "in=$1; shift; exec \"$0\" \"$@\" < \"$in\"",
-                                                   toolPath(), list} +
-                          arguments);
+        return runTool(arguments, input);
     }
 
     std::string path(const std::string& name) const { return mFolder.file(name); }

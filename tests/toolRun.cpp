@@ -34,7 +34,7 @@ CTempFolder::~CTempFolder()
 
 std::string CTempFolder::file(const std::string& name) const
 {
-    return nameOf(mPath / pathOf(name));
+    return nameOf((mPath / pathOf(name)).make_preferred());
 }
 
 std::string CTempFolder::put(const std::string& name, const std::string& text) const
@@ -69,10 +69,10 @@ std::string minimalWith(const std::string& elements)
     return text.insert(text.rfind("</Zel.File>"), elements);
 }
 
-CRun runTool(std::vector<std::string> arguments)
+CRun runTool(std::vector<std::string> arguments, const std::optional<std::string>& input)
 {
     arguments.insert(arguments.begin(), toolPath());
-    return runProgram(std::move(arguments));
+    return runProgram(std::move(arguments), input);
 }
 
 const char* toolPath()

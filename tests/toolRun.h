@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,9 +38,10 @@ struct CRun {
     std::size_t peakBytes = 0;
 };
 
-/// Runs a program found by the search path and waits for its end.
-CRun runProgram(std::vector<std::string> arguments);
+/// Runs a program found by the search path and waits for its end. On standard input it reads the
+/// given text, or else what these tests would.
+CRun runProgram(std::vector<std::string> arguments, const std::optional<std::string>& input = {});
 /// Runs the tool.
-CRun runTool(std::vector<std::string> arguments);
+CRun runTool(std::vector<std::string> arguments, const std::optional<std::string>& input = {});
 /// Null in a build without the tool.
 const char* toolPath();

@@ -13,21 +13,19 @@ namespace fs = std::filesystem;
 // The file itself, when the name is that of a link to it.
 static std::string resolve(const std::string& target)
 {
+    const std::string whole = fileName(wholePath(target));
     std::error_code error;
-    const fs::path whole = fs::absolute(filePath(target), error);
-    const fs::path file = fs::canonical(whole, error);
-    if (error)
-        return fileName(whole);
-    if (!fs::is_regular_file(file, error))
+    const fs::file_status status = fs::status(filePath(whole), error);
+    if (fs::exists(status) && !fs::is_regular_file(status))
         throw CToolError(eIoError, target + ": not an ordinary file");
-    return fileName(file);
+    return whole;
 }
 
 // Makes a new file in the folder of the target, under a name that nobody else has taken: on another
 // machine that shares the folder a process may have the same number.
 static int createBeside(const std::string& target, std::string& name)
 {
-    const fs::path folder = filePath(target).parent_path();
+    const fs::path folder = plainPath(target).parent_path();
     for (int number = 0;; ++number) {
         name = fileName(folder / (".zel-" + std::to_string(processNumber()) + "-" +
                                   std::to_string(number) + ".tmp"));

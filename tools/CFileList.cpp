@@ -2,6 +2,7 @@
 
 #include "tools/CFileRun.h"
 #include "tools/CToolError.h"
+#include "tools/folders.h"
 #include "tools/interrupt.h"
 #include "tools/platform.h"
 #include "tools/stableHash.h"
@@ -50,8 +51,7 @@ bool CFileList::nextOfAll(CListedFile& file)
     while (!mWalk.next(file.path)) {
         if (!nextGiven(file.path))
             return false;
-        std::error_code error;
-        if (!mRun.isRecursive || !std::filesystem::is_directory(filePath(file.path), error))
+        if (!mRun.isRecursive || !isFolder(file.path))
             return true;
         mWalk.start(file.path);
     }

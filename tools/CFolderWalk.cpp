@@ -1,31 +1,16 @@
 #include "tools/CFolderWalk.h"
 
 #include "tools/CToolError.h"
+#include "tools/folders.h"
 #include "tools/platform.h"
 
 #include <algorithm>
 
 namespace tool {
 
-namespace fs = std::filesystem;
-
-static bool isDocument(const fs::directory_entry& entry, const std::string& name)
-{
-    std::error_code error;
-    return name.ends_with(".zel") && entry.is_regular_file(error);
-}
-
-static bool isFolder(const fs::directory_entry& entry)
-{
-    std::error_code error;
-    return entry.is_directory(error) && !entry.is_symlink(error);
-}
-
 bool CFolderWalk::isSkipped(const std::string& folder) const
 {
-    std::error_code error;
-    return !mSkipped.empty() && fs::equivalent(filePath(folder), filePath(mSkipped), error) &&
-           !error;
+    return !mSkipped.empty() && isSameFile(folder, mSkipped).value_or(false);
 }
 
 void CFolderWalk::start(const std::string& folder)
@@ -54,23 +39,19 @@ void CFolderWalk::keep(CLevel& level, CEntry entry)
 void CFolderWalk::read(CLevel& level)
 {
     level.hasMore = false;
-    std::error_code error;
-    fs::directory_iterator entries(filePath(level.folder), error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
-        std::string name = fileName(entries->path().filename());
-        if (!level.isAtStart && name <= level.last)
-            continue;
-        if (isDocument(*entries, name))
-            keep(level, {std::move(name), false});
-        else if (isFolder(*entries))
-            keep(level, {std::move(name), true});
-    }
+    const auto isLeft = [&](const std::string& name) {
+        return level.isAtStart || name > level.last;
+    };
+    const std::string failure = readFolder(level.folder, isLeft, [&](const CFolderEntry& entry) {
+        if (entry.isFolder || (entry.isFile && entry.name.ends_with(".zel")))
+            keep(level, {entry.name, entry.isFolder});
+    });
     level.isAtStart = false;
     std::sort(level.entries.rbegin(), level.entries.rend());
-    if (error) {
+    if (!failure.empty()) {
         const std::string folder = level.folder;
         mLevels.pop_back();
-        throw CToolError(eIoError, folder + ": can't read: " + error.message());
+        throw CToolError(eIoError, folder + ": can't read: " + failure);
     }
 }
 
@@ -89,7 +70,7 @@ bool CFolderWalk::next(std::string& path)
         const CEntry entry = std::move(level.entries.back());
         level.entries.pop_back();
         level.last = entry.name;
-        path = fileName(filePath(level.folder) / filePath(entry.name));
+        path = fileName(plainPath(level.folder) / plainPath(entry.name));
         if (!entry.isFolder)
             return true;
         if (!isSkipped(path))

@@ -21,6 +21,24 @@ std::filesystem::path filePath(const std::string& name)
     return name;
 }
 
+std::filesystem::path plainPath(const std::string& name)
+{
+    return name;
+}
+
+std::filesystem::path rootlessPath(const std::string& name)
+{
+    return plainPath(name).lexically_normal().relative_path();
+}
+
+std::filesystem::path wholePath(const std::string& name)
+{
+    std::error_code error;
+    const std::filesystem::path whole = std::filesystem::absolute(name, error);
+    const std::filesystem::path file = std::filesystem::canonical(whole, error);
+    return error ? whole : file;
+}
+
 std::string fileName(const std::filesystem::path& path)
 {
     return path.native();

@@ -14,7 +14,13 @@ namespace tool {
 std::vector<std::string> programArguments(int argc, char** argv);
 /// The path by which a file of that name is opened.
 std::filesystem::path filePath(const std::string& name);
-/// The name of a path, the inverse of filePath.
+/// The path of that name as it stands, for its parts.
+std::filesystem::path plainPath(const std::string& name);
+/// That path in normal form and without its root; a drive is the first folder in it.
+std::filesystem::path rootlessPath(const std::string& name);
+/// That path from the root on. For a link to a file, the path of that file.
+std::filesystem::path wholePath(const std::string& name);
+/// The name of a path, the inverse of filePath and plainPath.
 std::string fileName(const std::filesystem::path& path);
 
 /// A duplicate of standard output; the descriptor itself leads to standard error from here on.

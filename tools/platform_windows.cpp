@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
+#include <string_view>
 #include <sys/stat.h>
 #include <system_error>
 #include <windows.h>
@@ -15,6 +16,10 @@
 namespace tool {
 
 namespace fs = std::filesystem;
+
+// In front of paths without a limit.
+constexpr std::wstring_view kUnlimited = L"\\\\?\\";
+constexpr std::wstring_view kUnlimitedServer = L"\\\\?\\UNC\\";
 
 static std::string narrow(const wchar_t* text)
 {
@@ -41,15 +46,66 @@ std::vector<std::string> programArguments(int, char**)
     return arguments;
 }
 
+fs::path plainPath(const std::string& name)
+{
+    return std::u8string(name.begin(), name.end());
+}
+
+static std::wstring withoutPrefix(const fs::path& path)
+{
+    const std::wstring& text = path.native();
+    return text.substr(text.starts_with(kUnlimited) ? kUnlimited.size() : 0);
+}
+
+fs::path rootlessPath(const std::string& name)
+{
+    const fs::path path = fs::path(withoutPrefix(plainPath(name))).lexically_normal();
+    const std::wstring drive = path.root_name().native();
+    const fs::path rest = path.relative_path();
+    if (drive.empty() || (!rest.empty() && *rest.begin() == L".."))
+        return rest;
+    return fs::path(drive.substr(0, drive.find(L':'))) / rest;
+}
+
+// As paths with the prefix have, too. The standard library takes no such path for whole.
+static bool hasServerForm(const fs::path& path)
+{
+    return path.native().starts_with(L"\\\\");
+}
+
 fs::path filePath(const std::string& name)
 {
     constexpr std::size_t kLongest = 240; // of the paths that need no prefix
-    const fs::path plain = std::u8string(name.begin(), name.end());
+    const fs::path plain = plainPath(name);
+    if (hasServerForm(plain))
+        return plain;
     std::error_code error;
     fs::path whole = fs::absolute(plain, error);
-    if (error || whole.native().size() < kLongest || whole.native().starts_with(L"\\\\"))
+    if (error || whole.native().size() < kLongest)
         return plain;
-    return fs::path(L"\\\\?\\" + whole.make_preferred().native());
+    return fs::path(kUnlimited).concat(whole.make_preferred().native());
+}
+
+// Empty if there is no such file.
+static std::wstring finalName(const fs::path& path)
+{
+    const HANDLE file = CreateFileW(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    std::wstring name(GetFinalPathNameByHandleW(file, nullptr, 0, 0), L'\0');
+    name.resize(GetFinalPathNameByHandleW(file, name.data(), static_cast<DWORD>(name.size()), 0));
+    CloseHandle(file);
+    return name;
+}
+
+fs::path wholePath(const std::string& name)
+{
+    const fs::path file = filePath(name);
+    fs::path whole = finalName(file);
+    std::error_code error;
+    if (whole.empty())
+        whole = hasServerForm(file) ? file : fs::absolute(file, error);
+    const bool isOnServer = whole.native().starts_with(kUnlimitedServer);
+    return isOnServer ? whole : fs::path(withoutPrefix(whole));
 }
 
 std::string fileName(const fs::path& path)

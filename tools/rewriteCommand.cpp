@@ -3,6 +3,7 @@
 #include "tools/CFileRun.h"
 #include "tools/CToolDocument.h"
 #include "tools/eachFile.h"
+#include "tools/folders.h"
 #include "tools/loadForSave.h"
 #include "tools/platform.h"
 
@@ -41,13 +42,12 @@ static std::string targetBelow(const std::string& folder, const std::string& fil
     if (!path.empty() && *path.begin() == "..")
         throw CToolError(eIoError, file + ": would leave the folder of the output");
     const std::string normal = fileName(plainPath(file).lexically_normal());
-    std::error_code error;
-    if (!fs::equivalent(filePath(file), filePath(normal), error) && !error)
+    if (!isSameFile(file, normal).value_or(true))
         throw CToolError(eIoError, file + ": goes back behind a link to a folder");
     const fs::path target = plainPath(folder) / path;
-    fs::create_directories(filePath(fileName(target.parent_path())), error);
-    if (error)
-        throw CToolError(eIoError, fileName(target) + ": can't write: " + error.message());
+    const std::string failure = makeFolders(fileName(target.parent_path()));
+    if (!failure.empty())
+        throw CToolError(eIoError, fileName(target) + ": can't write: " + failure);
     return fileName(target);
 }
 

@@ -1,0 +1,6 @@
+#include <gtest/gtest.h>
+
+TEST(ToolBatchWorkers, OfPosix)
+{
+    GTEST_SKIP() << "the tool has no worker processes on Windows";
+}
