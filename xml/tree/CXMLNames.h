@@ -1,5 +1,7 @@
 #pragma once
 
+#include "xml/tree/shortBytes.h"
+
 #include <zel/xml/XCXMLKey.h>
 
 #include <array>
@@ -15,29 +17,6 @@ namespace OrvaneXML {
 class CXMLElement;
 class CXMLNodePool;
 struct CXMLStore;
-
-template <class TWord>
-bool hasSameEnds(const char* a, const char* b, std::size_t nb)
-{
-    TWord words[4];
-    std::memcpy(&words[0], a, sizeof(TWord));
-    std::memcpy(&words[1], b, sizeof(TWord));
-    std::memcpy(&words[2], a + nb - sizeof(TWord), sizeof(TWord));
-    std::memcpy(&words[3], b + nb - sizeof(TWord), sizeof(TWord));
-    return words[0] == words[1] && words[2] == words[3];
-}
-
-/// Two overlapping words compare short names faster than a call does.
-inline bool isSame(const char* a, const char* b, std::size_t nb)
-{
-    if (nb >= 8 && nb <= 16)
-        return hasSameEnds<std::uint64_t>(a, b, nb);
-    if (nb >= 4 && nb < 8)
-        return hasSameEnds<std::uint32_t>(a, b, nb);
-    if (nb == 1)
-        return *a == *b;
-    return std::memcmp(a, b, nb) == 0;
-}
 
 /// The header of a name record. The NUL-terminated text follows it.
 struct SXMLName {

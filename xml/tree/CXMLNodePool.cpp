@@ -43,15 +43,21 @@ CXMLNodePool::SClass CXMLNodePool::ClassOf(std::size_t size)
     return {32 + (power - 8) * 4 + quarter, (std::size_t{1} << power) + (quarter + 1) * step};
 }
 
+/// What a block of so many bytes takes.
+std::size_t CXMLNodePool::WholeSize(std::size_t size)
+{
+    return sizeof(SBlock) + size + kReadBehind;
+}
+
 CXMLNodePool::SBlock* CXMLNodePool::NewBlock(std::size_t size)
 {
-    auto* block = static_cast<SBlock*>(::operator new(sizeof(SBlock) + size));
-    adviseLargePages(block, sizeof(SBlock) + size);
+    auto* block = static_cast<SBlock*>(::operator new(WholeSize(size)));
+    adviseLargePages(block, WholeSize(size));
     *block = {nullptr, mBlocks, size, 0};
     if (mBlocks)
         mBlocks->previous = block;
     mBlocks = block;
-    mBytes += sizeof(SBlock) + size;
+    mBytes += WholeSize(size);
     return block;
 }
 
@@ -60,7 +66,7 @@ void CXMLNodePool::UnlinkBlock(SBlock* block)
     (block->previous ? block->previous->next : mBlocks) = block->next;
     if (block->next)
         block->next->previous = block->previous;
-    mBytes -= sizeof(SBlock) + block->size;
+    mBytes -= WholeSize(block->size);
 }
 
 void CXMLNodePool::NextBlock(std::size_t needed)
@@ -74,7 +80,7 @@ void CXMLNodePool::NextBlock(std::size_t needed)
         mNext += piece.size;
         left -= piece.size;
     }
-    SBlock* block = NewBlock(std::max(needed, mBlockSize - sizeof(SBlock)));
+    SBlock* block = NewBlock(std::max(needed, mBlockSize - WholeSize(0)));
     mNext = reinterpret_cast<char*>(block + 1);
     mEnd = mNext + block->size;
     mBlockSize = std::min(mBlockSize * 2, kMaxBlock);

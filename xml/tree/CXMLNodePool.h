@@ -13,7 +13,9 @@ namespace OrvaneXML {
 /// own and go back there. Nodes are cut from the front of a block and are aligned to 8; texts come
 /// from its back, where they lie as close as an alignment to 2 lets them.
 ///
-///     SBlock | nodes .. mNext | free | mEnd .. texts
+/// Behind each piece some bytes more can be read, so that a text may be read by words.
+///
+///     SBlock | nodes .. mNext | free | mEnd .. texts | kReadBehind
 class CXMLNodePool {
 public:
     CXMLNodePool() = default;
@@ -61,6 +63,7 @@ private:
         std::size_t index, size;
     };
 
+    static constexpr std::size_t kReadBehind = 8;
     static constexpr std::size_t kNbClasses = 32 + 24;
     static constexpr std::size_t kMaxFine = 256; // up to here a class every 8 bytes, 2 for texts
 
@@ -77,6 +80,7 @@ private:
     std::size_t Left() const { return static_cast<std::size_t>(mEnd - mNext); }
     void* AllocateAnywhere(std::size_t size);
     char* AllocateTextAnywhere(std::size_t size);
+    static std::size_t WholeSize(std::size_t size);
     SBlock* NewBlock(std::size_t size);
     void UnlinkBlock(SBlock* block);
     void NextBlock(std::size_t needed);

@@ -2,10 +2,13 @@
 
 #include "xml/tree/characters.h"
 #include "xml/tree/decodeText.h"
+#include "xml/tree/lanes.h"
+#include "xml/tree/shortBytes.h"
 #include "xml/tree/skipDoctype.h"
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <cstring>
 #include <limits>
 
@@ -15,26 +18,25 @@ namespace {
 
 constexpr std::size_t kMaxDepth = 10'000;
 
-enum : unsigned char { kEndsName = 1, kEndsText = 2, kEndsValue = 4 };
-
 /// NUL stands behind the last byte of the window too, so that it ends every loop.
-constexpr std::array<unsigned char, 256> makeClasses()
+constexpr std::array<bool, 256> makeNameEnds()
 {
-    std::array<unsigned char, 256> classes{};
+    std::array<bool, 256> ends{};
     for (unsigned c = 0; c < 256; ++c)
-        classes[c] = isNameEnd(static_cast<char>(c)) ? kEndsName : 0;
-    for (char c : {'\0', '<', '&', '\r'})
-        classes[static_cast<unsigned char>(c)] |= kEndsText;
-    for (char c : {'\0', '"', '\'', '&', '\t', '\n', '\r'})
-        classes[static_cast<unsigned char>(c)] |= kEndsValue;
-    return classes;
+        ends[c] = isNameEnd(static_cast<char>(c));
+    return ends;
 }
 
-constexpr auto kClasses = makeClasses();
+constexpr auto kNameEnds = makeNameEnds();
 
-bool is(char c, unsigned char what)
+bool endsName(char c)
 {
-    return kClasses[static_cast<unsigned char>(c)] & what;
+    return kNameEnds[static_cast<unsigned char>(c)];
+}
+
+std::uint64_t textEnds(std::uint64_t lanes)
+{
+    return lanesOf(lanes, '<') | lanesOf(lanes, '&') | lanesOf(lanes, '\r') | lanesOf(lanes, 0);
 }
 
 template <class TChar>
@@ -197,7 +199,7 @@ char* CXMLScanner::Cut(char* p)
 char* CXMLScanner::ScanName(char* p, SPiece& name)
 {
     name.begin = p;
-    while (!is(*p, kEndsName))
+    while (!endsName(*p))
         ++p;
     name.end = p;
     if (!*p)
@@ -253,14 +255,14 @@ char* CXMLScanner::ScanValue(char* p, char quote, bool& isPlain)
 {
     isPlain = true;
     for (;; ++p) {
-        while (!is(*p, kEndsValue))
-            ++p;
+        p = findLane(p, [quote](std::uint64_t lanes) {
+            return lanesOf(lanes, quote) | lanesOf(lanes, '&') | lanesBelow(lanes, ' ');
+        });
         if (*p == quote)
             return p;
         if (!*p)
             return Cut(p);
-        if (*p != '"' && *p != '\'')
-            isPlain = false;
+        isPlain = false;
     }
 }
 
@@ -299,13 +301,32 @@ CXMLScanner::EToken CXMLScanner::CloseElement()
     return EToken::EndTag;
 }
 
+std::string_view CXMLScanner::OpenName() const
+{
+    return std::string_view(mOpenNames).substr(mOpenBegins.back());
+}
+
+/// Behind the name of the open element if that is what stands here, as nearly always; else null.
+char* CXMLScanner::PastOpenName(char* p) const
+{
+    if (mOpenBegins.empty())
+        return nullptr;
+    const std::string_view name = OpenName();
+    const bool isThere = mEnd - PlaceOf(p) > name.size() && isSame(p, name.data(), name.size()) &&
+                         (p[name.size()] == '>' || isWhite(p[name.size()]));
+    return isThere ? p + name.size() : nullptr;
+}
+
 char* CXMLScanner::ScanEndTag()
 {
-    char* p = ScanName(At(2), mName);
-    if (!p)
-        return nullptr;
-    if (mOpenBegins.empty() || Name() != std::string_view(mOpenNames).substr(mOpenBegins.back()))
-        Fail("end tag does not match", PlaceOf(p));
+    char* p = PastOpenName(At(2));
+    if (!p) {
+        p = ScanName(At(2), mName);
+        if (!p)
+            return nullptr;
+        if (mOpenBegins.empty() || Name() != OpenName())
+            Fail("end tag does not match", PlaceOf(p));
+    }
     p = pastWhite(p);
     if (!*p)
         return Cut(p);
@@ -329,8 +350,7 @@ char* CXMLScanner::ScanText()
         mIsPlain &= *p != '\r';
     mIsWhite = *p == '<';
     for (;; ++p) {
-        while (!is(*p, kEndsText))
-            ++p;
+        p = findLane(p, textEnds);
         if (*p == '<' || !*p)
             break;
         mIsPlain = false;

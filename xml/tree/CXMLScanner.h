@@ -70,6 +70,8 @@ private:
     char* ScanAttribute(char* p);
     char* ScanValue(char* p, char quote, bool& isPlain);
     char* ScanEndTag();
+    std::string_view OpenName() const;
+    char* PastOpenName(char* p) const;
     char* ScanText();
     char* ScanName(char* p, SPiece& name);
     char* Cut(char* p);

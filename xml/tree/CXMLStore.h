@@ -2,6 +2,7 @@
 
 #include "xml/tree/CXMLNames.h"
 #include "xml/tree/CXMLNodePool.h"
+#include "xml/tree/shortBytes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -45,7 +46,7 @@ struct CXMLStore {
         if (text.empty())
             return "";
         char* copy = pool.AllocateText(text.size() + 1);
-        std::memcpy(copy, text.data(), text.size());
+        copyBytes(copy, text.data(), text.size());
         copy[text.size()] = 0;
         return copy;
     }

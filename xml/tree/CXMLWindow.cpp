@@ -1,6 +1,7 @@
 #include "xml/tree/CXMLWindow.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <stdexcept>
 #include <string>
@@ -10,6 +11,7 @@ namespace OrvaneXML {
 namespace {
 
 constexpr std::size_t kWindow = 64 * 1024;
+constexpr std::uint64_t kBehind = 0;
 
 std::size_t countLineEnds(const char* begin, const char* end)
 {
@@ -28,10 +30,19 @@ std::size_t countLineEnds(const char* begin, const char* end)
 } // namespace
 
 CXMLWindow::CXMLWindow(XIXMLReadStream& stream)
-    : mBuffer(std::make_unique_for_overwrite<char[]>(kWindow + 1)), mStream(stream),
-      mCapacity(kWindow)
+    : mBuffer(NewBuffer(kWindow)), mStream(stream), mCapacity(kWindow)
 {
-    mBuffer[0] = 0;
+    PutEnd();
+}
+
+std::unique_ptr<char[]> CXMLWindow::NewBuffer(std::size_t capacity)
+{
+    return std::make_unique_for_overwrite<char[]>(capacity + sizeof kBehind);
+}
+
+void CXMLWindow::PutEnd()
+{
+    std::memcpy(mBuffer.get() + mEnd, &kBehind, sizeof kBehind);
 }
 
 void CXMLWindow::MakeRoom()
@@ -40,7 +51,7 @@ void CXMLWindow::MakeRoom()
         return;
     const std::size_t nb = mEnd - mTokenBegin;
     if (nb > mCapacity / 2) {
-        auto wider = std::make_unique_for_overwrite<char[]>(mCapacity * 2 + 1);
+        auto wider = NewBuffer(mCapacity * 2);
         std::memcpy(wider.get(), mBuffer.get() + mTokenBegin, nb);
         mBuffer = std::move(wider);
         mCapacity *= 2;
@@ -63,7 +74,7 @@ bool CXMLWindow::More()
         throw std::runtime_error("The stream of an XML document delivered more than was asked for");
     mNbLineEnds += countLineEnds(mBuffer.get() + mEnd, mBuffer.get() + mEnd + nb);
     mEnd += nb;
-    mBuffer[mEnd] = 0;
+    PutEnd();
     mIsAtEnd = nb == 0;
     return nb > 0;
 }

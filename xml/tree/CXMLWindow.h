@@ -11,8 +11,8 @@
 namespace OrvaneXML {
 
 /// The bytes of a stream around the token that is being scanned, which lies here as a whole. The
-/// window grows with a token as its bytes arrive. A NUL stands behind its last byte and ends every
-/// loop over it.
+/// window grows with a token as its bytes arrive. A word of NULs stands behind its last byte and
+/// ends every loop over it.
 ///
 ///     released | token  mTokenBegin .. mPosition | read ahead .. mEnd | free .. mCapacity
 class CXMLWindow {
@@ -104,7 +104,9 @@ protected:
     std::size_t mEnd = 0;
 
 private:
+    static std::unique_ptr<char[]> NewBuffer(std::size_t capacity);
     void MakeRoom();
+    void PutEnd();
 
     XIXMLReadStream& mStream;
     std::size_t mCapacity;

@@ -25,22 +25,6 @@ void CXMLWriteBuffer::PutAcross(std::string_view text)
     mFilled = text.size();
 }
 
-const char* CXMLWriteBuffer::PutUpTo(const char* text,
-                                     const std::array<unsigned char, 256>& classOf,
-                                     unsigned classes)
-{
-    for (;;) {
-        char* out = mBuffer.get() + mFilled;
-        const char* const end = mBuffer.get() + kSize;
-        while (out != end && !(classOf[static_cast<unsigned char>(*text)] & classes))
-            *out++ = *text++;
-        mFilled = static_cast<std::size_t>(out - mBuffer.get());
-        if (out != end)
-            return text;
-        Flush();
-    }
-}
-
 void CXMLWriteBuffer::Flush()
 {
     Forward(mBuffer.get(), mFilled);

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "xml/tree/lanes.h"
+#include "xml/tree/shortBytes.h"
+
 #include <zel/xml/XIXMLWriteStream.h>
 
-#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -27,7 +30,7 @@ public:
     {
         if (text.size() > kSize - mFilled)
             return PutAcross(text);
-        copyShort(mBuffer.get() + mFilled, text.data(), text.size());
+        copyBytes(mBuffer.get() + mFilled, text.data(), text.size());
         mFilled += text.size();
     }
     /// Puts the pieces one behind the other.
@@ -37,40 +40,30 @@ public:
         if ((pieces.size() + ...) > kSize - mFilled)
             return (Put(pieces), ...);
         char* out = mBuffer.get() + mFilled;
-        ((copyShort(out, pieces.data(), pieces.size()), out += pieces.size()), ...);
+        ((copyBytes(out, pieces.data(), pieces.size()), out += pieces.size()), ...);
         mFilled = static_cast<std::size_t>(out - mBuffer.get());
     }
-    /// Puts what `text` has in front of the first character of one of the `classes`, which NUL is
-    /// of in any case, and returns where that stands.
-    const char* PutUpTo(const char* text, const std::array<unsigned char, 256>& classOf,
-                        unsigned classes);
+    /// Puts what `text` has in front of the first character whose lane passes, and returns where
+    /// that stands. There is one, and seven bytes can be read behind it.
+    template <class TTest>
+    const char* PutUpTo(const char* text, TTest test)
+    {
+        for (;;) {
+            if (kSize - mFilled < 8)
+                Flush();
+            std::memcpy(mBuffer.get() + mFilled, text, 8);
+            const std::uint64_t found = test(lanesAt(text));
+            const int nb = found ? firstLane(found) : 8;
+            mFilled += static_cast<std::size_t>(nb);
+            text += nb;
+            if (found)
+                return text;
+        }
+    }
     /// Throws std::runtime_error when the stream takes nothing.
     void Flush();
 
 private:
-    /// Names and tags are short: two overlapping words copy them faster than a call does.
-    static void copyShort(char* to, const char* from, std::size_t nb)
-    {
-        if (nb > 16)
-            std::memcpy(to, from, nb);
-        else if (nb >= 8)
-            copyEnds<8>(to, from, nb);
-        else if (nb >= 4)
-            copyEnds<4>(to, from, nb);
-        else if (nb >= 2)
-            copyEnds<2>(to, from, nb);
-        else if (nb == 1)
-            *to = *from;
-    }
-    template <std::size_t kWord>
-    static void copyEnds(char* to, const char* from, std::size_t nb)
-    {
-        char ends[2 * kWord];
-        std::memcpy(ends, from, kWord);
-        std::memcpy(ends + kWord, from + nb - kWord, kWord);
-        std::memcpy(to, ends, kWord);
-        std::memcpy(to + nb - kWord, ends + kWord, kWord);
-    }
     void PutAcross(std::string_view text);
     void Forward(const char* bytes, std::size_t size);
 

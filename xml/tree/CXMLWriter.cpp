@@ -3,8 +3,8 @@
 #include "xml/tree/CXMLCDataNode.h"
 #include "xml/tree/CXMLElement.h"
 
-#include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 
 using namespace std::string_view_literals;
@@ -13,21 +13,22 @@ namespace OrvaneXML {
 
 namespace {
 
-enum : unsigned { kStopsText = 1, kStopsValue = 2 };
-
-/// What cannot stand in a text or in a value as it is; NUL ends both.
-constexpr std::array<unsigned char, 256> makeStops()
+/// Whether a character cannot stand in a text, or in a value, as it is.
+bool isForbidden(char c, bool isValue)
 {
-    std::array<unsigned char, 256> stops{};
-    for (unsigned c = 0; c < ' '; ++c)
-        stops[c] = kStopsText | kStopsValue;
-    stops['\t'] = stops['\n'] = kStopsValue;
-    for (char c : {'&', '<', '>', '"', '\x7F'})
-        stops[static_cast<unsigned char>(c)] = kStopsText | kStopsValue;
-    return stops;
+    const auto u = static_cast<unsigned char>(c);
+    if (c == '\t' || c == '\n')
+        return isValue;
+    return u < ' ' || c == '&' || c == '<' || c == '>' || c == '"' || u == 0x7F;
 }
 
-constexpr auto kStops = makeStops();
+/// These characters, and NUL, which ends each text. A tab and a line end are always among them.
+std::uint64_t forbiddenLanes(std::uint64_t lanes)
+{
+    static_assert(('<' | 2) == '>' && ('"' | 4) == '&');
+    return lanesBelow(lanes, ' ') | lanesOf(lanes | eachLane(2), '>') |
+           lanesOf(lanes | eachLane(4), '&') | lanesOf(lanes, '\x7F');
+}
 
 bool isWhite(const char* text)
 {
@@ -134,7 +135,7 @@ void CXMLWriter::Tag(const CXMLElement& element)
     mOut.PutAll("<"sv, element.Name()->view());
     for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
         mOut.PutAll(" "sv, item->Name()->view(), "=\""sv);
-        Escaped(item->Value(), kStopsValue);
+        Escaped(item->Value(), true);
         mOut.Put('"');
     }
 }
@@ -151,7 +152,7 @@ bool CXMLWriter::Open(const CXMLElement& element)
     Tag(element);
     if (const char* text = element.LoneText()) {
         mOut.Put('>');
-        Escaped(text, kStopsText);
+        Escaped(text, false);
         EndTag(element);
         return false;
     }
@@ -180,7 +181,7 @@ void CXMLWriter::Text(const CXMLNode& node)
 {
     if (!isText(node.Previous()))
         mKeepNext = mHasElements.back() && isWhiteRun(&node);
-    Escaped(node.GetText(), kStopsText);
+    Escaped(node.GetText(), false);
 }
 
 void CXMLWriter::Comment(std::string_view text)
@@ -209,14 +210,21 @@ void CXMLWriter::Section(CXMLCDataNode& node)
     mOut.Put("]]>");
 }
 
-void CXMLWriter::Escaped(const char* text, unsigned which)
+/// The text is one of the tree's own, behind which a word can be read.
+void CXMLWriter::Escaped(const char* text, bool isValue)
 {
-    if (mKeepNext && *text) {
+    if (!*text)
+        return;
+    if (mKeepNext)
         Reference(*text++);
-        mKeepNext = false;
+    mKeepNext = false;
+    while (*(text = mOut.PutUpTo(text, forbiddenLanes))) {
+        if (isForbidden(*text, isValue))
+            Reference(*text);
+        else
+            mOut.Put(*text);
+        ++text;
     }
-    while (*(text = mOut.PutUpTo(text, kStops, which)))
-        Reference(*text++);
 }
 
 void CXMLWriter::Reference(char c)

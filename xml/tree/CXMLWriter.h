@@ -36,7 +36,7 @@ private:
     void Comment(std::string_view text);
     void Instruction(CXMLNode& node);
     void Section(CXMLCDataNode& node);
-    void Escaped(const char* text, unsigned which);
+    void Escaped(const char* text, bool isValue);
     void Reference(char c);
 
     static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);
