@@ -5,7 +5,7 @@ set -euo pipefail
 here=$(dirname "$0")
 . "$here/common.sh"
 
-export ZEL=$1
+tool=$1
 example=$2
 if ! parallel --version 2> /dev/null | grep -q '^GNU parallel'; then
     echo "SKIPPED: GNU parallel is not installed"
@@ -25,12 +25,15 @@ run=
 trap cleanup EXIT
 export HOME=$work # where GNU parallel keeps notes of its own
 make_scenes "$work/scenes"
+make_tool "$tool" "$work"
+export ZEL=$work/zel
 
 "$example/check-parallel" "$work/scenes" "$work" 3 > "$work/out" 2>&1 &
 run=$!
 await 60 "the middle of a shard" has_lines 50 "$work/logs/1-of-3.log"
+rm "$work/hold"
 kill_run
-wait
+{ wait; } 2> /dev/null
 nb=$(nb_noted "$work"/logs/*.log)
 [[ $nb -lt 3002 ]] || { echo "FAILED: the run was over before it was killed"; exit 1; }
 
