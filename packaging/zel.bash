@@ -13,7 +13,7 @@ _zel()
         local words=("$command")
         [[ $command != shader ]] || words+=("${COMP_WORDS[2]}")
         local options
-        options=$(zel "${words[@]}" --help 2> /dev/null | grep -o -E '^  (-[a-z],)?--[a-z-]+' |
+        options=$(zel "${words[@]}" --help 2> /dev/null | grep -o -E '^  (-[a-z0-9],)?--[a-z-]+' |
             grep -o -E -- '--[a-z-]+')
         mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word")
     else

@@ -8,7 +8,7 @@ function __zel_options
     set -l words (commandline -opc)[2..-1]
     set -l called $words[1]
     test "$called" = shader; and set called $words[1..2]
-    zel $called --help 2>/dev/null | grep -o -E '^  (-[a-z],)?--[a-z-]+' | grep -o -E -- '--[a-z-]+'
+    zel $called --help 2>/dev/null | grep -o -E '^  (-[a-z0-9],)?--[a-z-]+' | grep -o -E -- '--[a-z-]+'
 end
 
 complete -c zel -f -n __fish_use_subcommand -a '(__zel_commands)'

@@ -10,7 +10,7 @@ elif (( CURRENT == 3 )) && [[ $words[2] == shader ]]; then
 elif [[ $words[CURRENT] == -* ]]; then
     local -a called=($words[2])
     [[ $words[2] != shader ]] || called+=($words[3])
-    found=(${(f)"$(zel $called --help 2> /dev/null | grep -o -E '^  (-[a-z],)?--[a-z-]+' |
+    found=(${(f)"$(zel $called --help 2> /dev/null | grep -o -E '^  (-[a-z0-9],)?--[a-z-]+' |
         grep -o -E -- '--[a-z-]+')"})
     compadd -- $found
 else
