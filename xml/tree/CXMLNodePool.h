@@ -63,7 +63,7 @@ private:
         std::size_t index, size;
     };
 
-    static constexpr std::size_t kReadBehind = 8;
+    static constexpr std::size_t kReadBehind = 16;
     static constexpr std::size_t kNbClasses = 32 + 24;
     static constexpr std::size_t kMaxFine = 256; // up to here a class every 8 bytes, 2 for texts
 

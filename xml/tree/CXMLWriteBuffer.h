@@ -13,6 +13,13 @@
 
 namespace OrvaneXML {
 
+/// A text from the beginning of which 16 bytes can be read, so that a short one is copied at once.
+struct SPaddedText {
+    std::string_view text;
+
+    std::size_t size() const { return text.size(); }
+};
+
 /// Collects small writes into large ones. What is not flushed is lost on purpose: a write that
 /// fails puts out nothing more.
 class CXMLWriteBuffer final : public XIXMLWriteStream {
@@ -38,9 +45,9 @@ public:
     void PutAll(TPieces... pieces)
     {
         if ((pieces.size() + ...) > kSize - mFilled)
-            return (Put(pieces), ...);
+            return (PutPiece(pieces), ...);
         char* out = mBuffer.get() + mFilled;
-        ((copyBytes(out, pieces.data(), pieces.size()), out += pieces.size()), ...);
+        ((CopyPiece(out, pieces), out += pieces.size()), ...);
         mFilled = static_cast<std::size_t>(out - mBuffer.get());
     }
     /// Puts what `text` has in front of the first character whose lane passes, and returns where
@@ -64,6 +71,20 @@ public:
     void Flush();
 
 private:
+    static constexpr std::size_t kPadded = 16;
+
+    static void CopyPiece(char* out, std::string_view text)
+    {
+        copyBytes(out, text.data(), text.size());
+    }
+    static void CopyPiece(char* out, SPaddedText padded)
+    {
+        std::memcpy(out, padded.text.data(), kPadded);
+        if (padded.size() > kPadded)
+            std::memcpy(out, padded.text.data(), padded.size());
+    }
+    void PutPiece(std::string_view text) { Put(text); }
+    void PutPiece(SPaddedText padded) { Put(padded.text); }
     void PutAcross(std::string_view text);
     void Forward(const char* bytes, std::size_t size);
 

@@ -30,6 +30,12 @@ std::uint64_t forbiddenLanes(std::uint64_t lanes)
            lanesOf(lanes | eachLane(4), '&') | lanesOf(lanes, '\x7F');
 }
 
+/// Names lie in the pool of the tree, which can be read for so far.
+SPaddedText padded(const SXMLName* name)
+{
+    return {name->view()};
+}
+
 bool isWhite(const char* text)
 {
     return text[std::strspn(text, " \t\r\n")] == 0;
@@ -104,14 +110,15 @@ void CXMLWriter::NewLine()
 {
     if (mInlineDepth != kNowhere)
         return;
-    if (mIsStarted)
-        mOut.Put('\n');
-    mIsStarted = true;
-    constexpr std::string_view kTabs = "\t\t\t\t\t\t\t\t";
-    std::size_t nb = mHasElements.size();
-    for (; nb > kTabs.size(); nb -= kTabs.size())
-        mOut.Put(kTabs);
-    mOut.Put(kTabs.substr(0, nb));
+    if (!mIsStarted) {
+        mIsStarted = true;
+        return;
+    }
+    constexpr std::string_view kLine = "\n\t\t\t\t\t\t\t\t\t\t\t\t\t\t\t";
+    const std::size_t nb = mHasElements.size() + 1;
+    mOut.PutAll(SPaddedText{kLine.substr(0, nb)});
+    for (std::size_t done = kLine.size(); done < nb; ++done)
+        mOut.Put('\t');
 }
 
 void CXMLWriter::Node(CXMLNode& node)
@@ -132,9 +139,9 @@ void CXMLWriter::Node(CXMLNode& node)
 
 void CXMLWriter::Tag(const CXMLElement& element)
 {
-    mOut.PutAll("<"sv, element.Name()->view());
+    mOut.PutAll("<"sv, padded(element.Name()));
     for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
-        mOut.PutAll(" "sv, item->Name()->view(), "=\""sv);
+        mOut.PutAll(" "sv, padded(item->Name()), "=\""sv);
         Escaped(item->Value(), true);
         mOut.Put('"');
     }
@@ -142,7 +149,7 @@ void CXMLWriter::Tag(const CXMLElement& element)
 
 void CXMLWriter::EndTag(const CXMLElement& element)
 {
-    mOut.PutAll("</"sv, element.Name()->view(), ">"sv);
+    mOut.PutAll("</"sv, padded(element.Name()), ">"sv);
 }
 
 /// True if the element is open now and its children come next.
