@@ -299,7 +299,9 @@ TEST_F(ToolModel, AChangeOfTheModelChangesNoOtherIdentifier)
     const CNode hill{"hill", "big", "steel", moved(0, 0, 9)};
     const CNode raised{"floor", "sq", "steel", moved(0, 7, 0)};
     const CCameraNode view{"view", "wide", moved(0, 0, 0), moved(1, 2, 3)};
-    load(mFolder.put("house.dae", collada({near, far, floor, leaning, again}, {view})));
+    const CCameraNode second{"view", "tall", moved(0, 0, 0), moved(4, 5, 6)};
+    load(mFolder.put("house.dae", collada({near, far, floor, leaning, again}, {view, second})));
+    ASSERT_EQ(document().getCameras()->getNbObjects(), 2);
     const CIds before(document());
     EXPECT_EQ(before.getNbDistinct(), before.size());
     // Of the instances with one name, and those of another mesh in its own component.
@@ -321,7 +323,7 @@ TEST_F(ToolModel, AChangeOfTheModelChangesNoOtherIdentifier)
         {{near, far, floor, leaning}, {"instance near'"}},
     };
     for (auto item : cases) {
-        load(mFolder.put("house.dae", collada(item.nodes, {view})));
+        load(mFolder.put("house.dae", collada(item.nodes, {view, second})));
         item.changed.insert(item.changed.end(), {"document", "file"});
         EXPECT_THAT(before.differences(CIds(document())),
                     testing::UnorderedElementsAreArray(item.changed));
