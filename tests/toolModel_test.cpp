@@ -447,6 +447,35 @@ TEST_F(ToolModel, AnObjFileComesBack)
                 testing::IsSupersetOf({"Wall", "Unused", "Roof"}));
 }
 
+// Whatever a model has, a document is UTF-8.
+TEST_F(ToolModel, NamesBecomeUtf8)
+{
+    const std::pair<std::string, std::string> cases[] = {
+        {"plain", "plain"},
+        {"Gr\u00fcn", "Gr\u00fcn"},
+        {"\xF0\x9F\x8F\xA0", "\xF0\x9F\x8F\xA0"},
+        {"\xEF\xBF\xBD", "\xEF\xBF\xBD"},
+        {"Bl\xE4u", "Bl\u00e4u"}, // of Latin 1
+        {"cut\xC3", "cut\u00c3"}, // in the middle
+        {"cut\xE2\x82", "cut\u00e2\u0082"},
+        {"long\xC0\xAF", "long\u00c0\u00af"},           // more bytes than the slash needs
+        {"half\xED\xA0\x80", "half\u00ed\u00a0\u0080"}, // of a pair
+        {"far\xF4\x90\x80\x80", "far\u00f4\u0090\u0080\u0080"},
+        {"odd\x01", "odd?"},
+    };
+    for (const auto& [name, expected] : cases) {
+        mFolder.put("in.mtl", "newmtl " + name + "\nKd 0.5 0.25 0.125\nmap_Kd " + name + ".png\n");
+        load(mFolder.put("in.obj", "mtllib in.mtl\nv 0 0 0\nv 1 0 0\nv 1 1 0\no " + name +
+                                       "\nusemtl " + name + "\nf 1 2 3\n"));
+        EXPECT_THAT(namesOf(definition(0).getProperties()), ElementsAre(expected));
+        EXPECT_EQ(definition(0).getProperties()->getZelObject(0)->getDiffuseMapUrl(),
+                  expected + ".png");
+        EXPECT_THAT(namesOf(document().getObjectInstances()), ElementsAre(expected));
+        EXPECT_THAT(namesOf(document().getLayers()), ElementsAre(expected));
+        EXPECT_THAT(namesOf(document().getDefinitions()), ElementsAre(expected));
+    }
+}
+
 TEST_F(ToolModel, FlatIsOneMeshWithTheMaterialsOfTheModel)
 {
     const std::string model = mFolder.put(

@@ -4,6 +4,7 @@
 #include "tools/forEach.h"
 #include "tools/gltfCameras.h"
 #include "tools/interrupt.h"
+#include "tools/modelText.h"
 #include "tools/nodeTransform.h"
 #include "tools/stableId.h"
 
@@ -92,7 +93,7 @@ void CModelCameras::addTo(OvZel::IZelMgr& document) const
         const OvZel::CZelUUID id = stableId("camera", {}, each.name, names.add(each.name));
         view->getViewInfo()->getBasicData()->setId(&id); // a file keeps none of the view itself
         if (!each.name.empty())
-            view->getBasicData()->setName(each.name.c_str());
+            view->getBasicData()->setName(modelText(each.name).c_str());
         view->setPosition(each.position);
         view->setTarget(each.target);
         view->setUp(each.up);

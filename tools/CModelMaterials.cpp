@@ -1,5 +1,6 @@
 #include "tools/CModelMaterials.h"
 
+#include "tools/modelText.h"
 #include "tools/nodeTree.h"
 #include "tools/stableId.h"
 
@@ -118,7 +119,7 @@ void CModelMaterials::fillMaps(IZelProperty& property, const aiMaterial& materia
         if (!isLaidOut)
             layOut(property, modes);
         isLaidOut = true;
-        (property.*map.setUrl)(url);
+        (property.*map.setUrl)(modelText(url).c_str());
         if (map.setStrength)
             (property.*map.setStrength)(1.0); // a new map has none
     }
@@ -141,7 +142,7 @@ static void identify(IZelProperty& property)
 
 void CModelMaterials::fill(IZelProperty& property, const aiMaterial& material)
 {
-    std::string name = material.GetName().C_Str();
+    std::string name = modelText(material.GetName().C_Str());
     if (name.empty())
         name = "material_" + std::to_string(mIndices.size());
     property.getBasicData()->setName(mNames.add(name).c_str());

@@ -1,6 +1,7 @@
 #include "tools/CSceneBuilder.h"
 
 #include "tools/interrupt.h"
+#include "tools/modelText.h"
 #include "tools/nodeTransform.h"
 
 #include <zel/IZelMgr.h>
@@ -135,7 +136,7 @@ void CSceneBuilder::addDefinition(unsigned mesh, const std::string& name, const 
     definition.setClass("ModelObject");
     // Level 0 is an export's one top-level component, whose instances no import takes over.
     definition.setGeometryLevel(1);
-    definition.getBasicData()->setName(name.c_str());
+    definition.getBasicData()->setName(modelText(name).c_str());
     definition.getBasicData()->setId(&id);
     const unsigned material = mScene.mMeshes[mesh]->mMaterialIndex;
     if (material < mScene.mNumMaterials) {
@@ -163,7 +164,7 @@ CZelUUID CSceneBuilder::layerOf(const std::string& name)
     if (known != mLayers.end())
         return known->second;
     OvZel::IZelLayer& layer = added(mDocument.getLayers());
-    layer.getBasicData()->setName(name.c_str());
+    layer.getBasicData()->setName(modelText(name).c_str());
     const CZelUUID id = stableId("layer", {}, name);
     layer.getBasicData()->setId(&id);
     return mLayers[name] = id;
@@ -173,7 +174,7 @@ void CSceneBuilder::addInstance(const CPlace& place)
 {
     OvZel::IZelObjectInstance& instance = added(mDocument.getObjectInstances());
     instance.setClass("ModelObject");
-    instance.getBasicData()->setName(place.node->mName.C_Str());
+    instance.getBasicData()->setName(modelText(place.node->mName.C_Str()).c_str());
     instance.getBasicData()->setId(&place.id);
     instance.asInternalComponentInstance()->setComponentUUID(componentOf(place));
     const CPlacement placement = place.placement.value_or(CPlacement());
