@@ -103,7 +103,7 @@ std::int64_t stepThrough(std::int64_t nbPlaces)
 {
     if (std::getenv("ZEL_TEST_FULL") != nullptr)
         return 1;
-    const std::int64_t most = kIsSanitized ? 15 : 60;
+    const std::int64_t most = kIsSanitized ? 8 : 60;
     return (nbPlaces / most) | 1;
 }
 
