@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-// What holds for any document, tried with random ones. A failure names the seed of its document,
+// What holds for any document, tried with random ones. A failure names its document by a seed,
 // which zel_random_documents writes into a file.
 
 using namespace OvZel;
