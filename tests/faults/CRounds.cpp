@@ -99,6 +99,11 @@ void CRounds::report(std::int64_t nbPlaces, const std::string& fault) const
                 mNbRefused, mNbTold, mNbWhole);
 }
 
+bool isSanitized()
+{
+    return kIsSanitized;
+}
+
 std::int64_t stepThrough(std::int64_t nbPlaces)
 {
     if (std::getenv("ZEL_TEST_FULL") != nullptr)

@@ -39,6 +39,9 @@ private:
     int mNbWhole = 0;   ///< true, and nothing is missing
 };
 
+/// Whether this program and the tool are watched by a sanitizer, and several times slower.
+bool isSanitized();
+
 /// Every how many places a fault is tried: all with ZEL_TEST_FULL, else so that a normal run of the
 /// tests stays short. Odd, so that no pattern of two hides one half.
 std::int64_t stepThrough(std::int64_t nbPlaces);

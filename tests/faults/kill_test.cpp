@@ -1,5 +1,6 @@
 #ifdef ZEL_TOOL // without the tool there is nothing to test
 
+#include "tests/faults/CRounds.h"
 #include "tests/faults/CTracedTool.h"
 #include "tests/toolRun.h"
 
@@ -125,6 +126,8 @@ void end(pid_t process)
 
 TEST(Kill, AtAnyTimeLeavesTheOldFileOrTheNewOne)
 {
+    if (ZelTest::isSanitized())
+        GTEST_SKIP() << "a sanitized tool takes too long to be killed so often";
     const CInPlace file;
     CKills kills(file);
     const auto before = CClock::now();
@@ -143,6 +146,8 @@ TEST(Kill, AtAnyTimeLeavesTheOldFileOrTheNewOne)
 
 TEST(Kill, AtEachSystemCallOfTheSaveLeavesTheOldFileOrTheNewOne)
 {
+    if (ZelTest::isSanitized())
+        GTEST_SKIP() << "a sanitized tool takes too long to be killed so often";
     const CInPlace file;
     if (!CTracedTool::isPossible())
         GTEST_SKIP() << "no process may be traced here";
