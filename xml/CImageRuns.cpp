@@ -44,7 +44,61 @@ CImageRuns::CImageRuns(OrvaneXML::XIXMLReadStream& stream) : mReader(stream)
     if (nbPixels > trn_image_RGBAn8::kMaxPixels)
         OvThrow::Signal("XCXMLImage::Read - Wrong data");
     mNbPixels = static_cast<std::size_t>(nbPixels);
-    readRuns();
+}
+
+std::unique_ptr<CImageRuns::CPixel[]> CImageRuns::read()
+{
+    return mLittleEndian ? readAs<&onlyFirst>() : readAs<&alphaLast>();
+}
+
+template <CImageRuns::CPixel pixel(std::uint32_t)>
+std::unique_ptr<CImageRuns::CPixel[]> CImageRuns::readAs()
+{
+    if (mNbPixels <= kMadeAtOnce) {
+        std::unique_ptr<CPixel[]> pixels = newPixels();
+        readInto<pixel>(pixels.get());
+        return pixels;
+    }
+    keepRuns();
+    std::unique_ptr<CPixel[]> pixels = newPixels();
+    expand<pixel>(pixels.get());
+    return pixels;
+}
+
+std::unique_ptr<CImageRuns::CPixel[]> CImageRuns::newPixels() const
+{
+    std::unique_ptr<CPixel[]> pixels(new CPixel[mNbPixels]);
+    adviseLargePages(pixels.get(), mNbPixels * sizeof(CPixel));
+    return pixels;
+}
+
+template <CImageRuns::CPixel pixel(std::uint32_t)>
+void CImageRuns::readInto(CPixel* out)
+{
+    CPixel* const end = out + mNbPixels;
+    while (out != end) {
+        const std::uint32_t nbRepeats = readCount(static_cast<std::size_t>(end - out));
+        CPixel repeated;
+        readPixels<pixel>(&repeated, 1);
+        out = std::fill_n(out, nbRepeats, repeated);
+        if (out == end)
+            break;
+        out = readPixels<pixel>(out, readCount(static_cast<std::size_t>(end - out)));
+    }
+}
+
+/// Returns where the next ones belong.
+template <CImageRuns::CPixel pixel(std::uint32_t)>
+CImageRuns::CPixel* CImageRuns::readPixels(CPixel* out, std::size_t nb)
+{
+    std::uint32_t words[kWordsAtATime];
+    while (nb > 0) {
+        const std::size_t nbNow = std::min(nb, kWordsAtATime);
+        mReader.read(reinterpret_cast<std::uint8_t*>(words), nbNow);
+        out = std::transform(words, words + nbNow, out, pixel);
+        nb -= nbNow;
+    }
+    return out;
 }
 
 void CImageRuns::readFormat()
@@ -55,16 +109,21 @@ void CImageRuns::readFormat()
     mLittleEndian = format == kLittleEndian;
 }
 
-void CImageRuns::readRuns()
+void CImageRuns::keepRuns()
 {
+    const auto keepCount = [this](std::size_t nbLeft) {
+        const std::uint32_t count = readCount(nbLeft);
+        *append(1) = count;
+        return count;
+    };
     std::size_t nbLeft = mNbPixels;
     while (nbLeft > 0) {
-        nbLeft -= readCount(nbLeft);
-        readPixels(1);
+        nbLeft -= keepCount(nbLeft);
+        keepPixels(1);
         if (nbLeft == 0)
             break;
-        const std::uint32_t nbLiterals = readCount(nbLeft);
-        readPixels(nbLiterals);
+        const std::uint32_t nbLiterals = keepCount(nbLeft);
+        keepPixels(nbLiterals);
         nbLeft -= nbLiterals;
     }
 }
@@ -83,11 +142,10 @@ std::uint32_t CImageRuns::readCount(std::size_t nbLeft)
     const std::uint32_t count = readNumber();
     if (count > nbLeft)
         OvThrow::Signal("XCXMLImage::Read - Wrong data");
-    *append(1) = count;
     return count;
 }
 
-void CImageRuns::readPixels(std::size_t nb)
+void CImageRuns::keepPixels(std::size_t nb)
 {
     while (nb > 0) {
         const std::size_t nbNow = std::min(nb, kWordsAtATime);
@@ -111,16 +169,8 @@ std::uint32_t* CImageRuns::append(std::size_t nb)
     return mWords.data + mNbWords - nb;
 }
 
-void CImageRuns::expand(CPixel* out) const
-{
-    if (mLittleEndian)
-        expandAs<&onlyFirst>(out);
-    else
-        expandAs<&alphaLast>(out);
-}
-
 template <CImageRuns::CPixel pixel(std::uint32_t)>
-void CImageRuns::expandAs(CPixel* out) const
+void CImageRuns::expand(CPixel* out) const
 {
     CPixel* const end = out + mNbPixels;
     const std::uint32_t* word = mWords.data;

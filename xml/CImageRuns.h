@@ -6,18 +6,23 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 namespace OvZel {
 
-/// A stored picture before it is unpacked: its size and its runs.
+/// Reads a stored picture: its size, then its runs.
 ///
-/// The runs take no more memory than their digits did. Only when they are known to fill the picture
-/// exactly is memory for the pixels worth taking, since a few bytes can claim any size.
+/// A few bytes can claim any size. Up to kMadeAtOnce pixels are made before they are known to come;
+/// of a larger picture the runs are kept first, which take no more memory than their digits did,
+/// and memory for the pixels is taken only when the runs fill the picture exactly.
 class CImageRuns {
 public:
     using CPixel = trn_image_RGBAn8::CPixel;
 
-    /// Raises "Unknown format" or "XCXMLImage::Read - Wrong data", and what CHexReader raises.
+    static constexpr std::size_t kMadeAtOnce = 8 * 1024 * 1024;
+
+    /// Reads the size. Raises "Unknown format" or "XCXMLImage::Read - Wrong data", and what
+    /// CHexReader raises.
     explicit CImageRuns(OrvaneXML::XIXMLReadStream& stream);
 
     CImageRuns(const CImageRuns&) = delete;
@@ -26,17 +31,24 @@ public:
     std::uint32_t width() const { return mWidth; }
     std::uint32_t height() const { return mHeight; }
     std::size_t nbPixels() const { return mNbPixels; }
-    /// Writes nbPixels() pixels.
-    void expand(CPixel* out) const;
+    /// Reads all pixels, row by row. Raises the same, and std::bad_alloc.
+    std::unique_ptr<CPixel[]> read();
 
 private:
     void readFormat();
-    void readRuns();
     std::uint32_t readNumber();
     std::uint32_t readCount(std::size_t nbLeft);
-    void readPixels(std::size_t nb);
+    std::unique_ptr<CPixel[]> newPixels() const;
     template <CPixel pixel(std::uint32_t)>
-    void expandAs(CPixel* out) const;
+    std::unique_ptr<CPixel[]> readAs();
+    template <CPixel pixel(std::uint32_t)>
+    void readInto(CPixel* out);
+    template <CPixel pixel(std::uint32_t)>
+    CPixel* readPixels(CPixel* out, std::size_t nb);
+    void keepRuns();
+    void keepPixels(std::size_t nb);
+    template <CPixel pixel(std::uint32_t)>
+    void expand(CPixel* out) const;
 
     CHexReader mReader;
     bool mLittleEndian = false;
@@ -45,8 +57,8 @@ private:
     std::size_t mNbPixels = 0;
     std::uint32_t* append(std::size_t nb);
 
-    // A run's count and pixel, then the count and the pixels of the literal stretch behind it, and
-    // so on. Counts are numbers, pixels the four bytes of the stream.
+    // Of a large picture: a run's count and pixel, then the count and the pixels of the literal
+    // stretch behind it, and so on. Counts are numbers, pixels the four bytes of the stream.
     struct CWords {
         ~CWords() { freeBuffer(data, size()); }
         std::size_t size() const { return room * sizeof(std::uint32_t); }

@@ -1,11 +1,9 @@
 #include "xml/XCXMLImage.h"
 
-#include "core/largePages.h"
 #include "xml/CHexWriter.h"
 #include "xml/CImageRuns.h"
 
 #include <bit>
-#include <memory>
 #include <new>
 
 namespace OvZel {
@@ -53,13 +51,10 @@ XCXMLImage::XCXMLImage(std::uint32_t width, std::uint32_t height, std::uint8_t* 
 void XCXMLImage::ReadImage(OrvaneXML::XIXMLReadStream& stream)
 {
     try {
-        const CImageRuns runs(stream);
+        CImageRuns runs(stream);
         if (runs.nbPixels() == 0)
             return adopt(0, 0, nullptr);
-        std::unique_ptr<CPixel[]> made(new CPixel[runs.nbPixels()]);
-        adviseLargePages(made.get(), runs.nbPixels() * sizeof(CPixel));
-        runs.expand(made.get());
-        adopt(runs.width(), runs.height(), std::move(made));
+        adopt(runs.width(), runs.height(), runs.read());
     } catch (const std::bad_alloc&) {
         OvThrow::Signal("XCXMLImage::Read - Wrong data");
     }
