@@ -125,9 +125,12 @@ bool CPolygonMgr::appendFlat(std::int32_t material, bool isSmooth, std::span<con
     }
 }
 
+/// Of a large list nobody has touched the spare room, so it costs next to nothing, and a smaller
+/// copy would cost the list once more for a while.
 void CPolygonMgr::releaseSpareRoom() noexcept
 {
-    mRecords.shrink_to_fit();
+    if (mRecords.capacity() * sizeof(CPolygonRecord) < kLargeArea)
+        mRecords.shrink_to_fit();
     mFlat.releaseSpareRoom();
 }
 
