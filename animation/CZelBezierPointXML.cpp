@@ -8,7 +8,7 @@ namespace OvZel {
 namespace {
 
 /// A vector that fails is left at the origin.
-void getVector(const CZelXMLGet& in, const char* tag, CZelPoint& vector)
+void getVector(const CZelXMLGet& in, OrvaneXML::CXMLTag tag, CZelPoint& vector)
 {
     vector = {};
     vector = CZelXMLGet(in.FindElement(tag)).GetCoord3D();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/TZelXMLFrontierObjLinkRef.h"
+#include "xml/tree/CXMLTag.h"
 
 #include <zel/IZelKeyFrame.h>
 
@@ -48,8 +49,9 @@ public:
     void getFrom(CZelXMLIO& io, const CZelXMLGet& in);
 
 private:
-    void addValue(const CZelXMLAdd& out, const char* tag, const uValue& value) const;
-    void getValue(const CZelXMLIO& io, const CZelXMLGet& in, const char* tag, uValue& value) const;
+    void addValue(const CZelXMLAdd& out, OrvaneXML::CXMLTag tag, const uValue& value) const;
+    void getValue(const CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag tag,
+                  uValue& value) const;
 
     std::int32_t mTime = 0;
     std::int32_t mValueType = eInteger;

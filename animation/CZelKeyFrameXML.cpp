@@ -25,7 +25,7 @@ constexpr CZelLabel kInterpolationTypes[] = {{"Linear", 0}, {"Square", 1}, {"One
 /// From this version on a date is in universal time and has 64 bits.
 constexpr CZelVersion kUniversalDates{5, 1, 1};
 
-std::int64_t dateFrom(const CZelXMLIO& io, const CZelXMLGet& in, const char* tag)
+std::int64_t dateFrom(const CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag tag)
 {
     if (io.isOlderThan(kUniversalDates))
         return localToUniversal(in.GetInteger(tag));
@@ -82,7 +82,8 @@ void CZelKeyFrame::getFrom(CZelXMLIO& io, const CZelXMLGet& in)
     });
 }
 
-void CZelKeyFrame::addValue(const CZelXMLAdd& out, const char* tag, const uValue& value) const
+void CZelKeyFrame::addValue(const CZelXMLAdd& out, OrvaneXML::CXMLTag tag,
+                            const uValue& value) const
 {
     switch (mValueType) {
     case eCoord3D:
@@ -108,7 +109,7 @@ void CZelKeyFrame::addValue(const CZelXMLAdd& out, const char* tag, const uValue
     }
 }
 
-void CZelKeyFrame::getValue(const CZelXMLIO& io, const CZelXMLGet& in, const char* tag,
+void CZelKeyFrame::getValue(const CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag tag,
                             uValue& value) const
 {
     value = {};

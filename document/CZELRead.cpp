@@ -39,8 +39,8 @@ bool guarded(CZEL& document, Operation operation)
 
 /// A section that isn't there, or has no items, leaves its list as it stands.
 template <class Mgr>
-void readList(CZelXMLIO& io, const CZelXMLGet& in, const char* sectionTag, const char* itemTag,
-              Mgr& list)
+void readList(CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag sectionTag,
+              OrvaneXML::CXMLTag itemTag, Mgr& list)
 {
     XIXMLElement* section = in.FindElement(sectionTag);
     if (section != nullptr && CZelXMLGet(section).IsElement(itemTag))
@@ -49,8 +49,8 @@ void readList(CZelXMLIO& io, const CZelXMLGet& in, const char* sectionTag, const
 
 /// A section that isn't there leaves its list as it stands; one without items empties it.
 template <class Mgr>
-void readWholeList(CZelXMLIO& io, const CZelXMLGet& in, const char* sectionTag, const char* itemTag,
-                   Mgr& list)
+void readWholeList(CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag sectionTag,
+                   OrvaneXML::CXMLTag itemTag, Mgr& list)
 {
     if (XIXMLElement* section = in.FindElement(sectionTag))
         getItems(io, section, itemTag, list);

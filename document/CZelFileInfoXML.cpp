@@ -24,7 +24,7 @@ void addIdFirst(const CZelXMLAdd& out, const CZelUUID& id)
     }
     out.AddUUID("UUID", id);
     for (const auto& [name, value] : others)
-        out.AddAttribute(name.c_str(), value.c_str());
+        out.AddAttribute(name, value.c_str());
 }
 
 } // namespace

@@ -276,7 +276,8 @@ TEST(HeliodonXml, EveryLabelHasItsNumber)
         const CTestElement target;
         OrvaneXML::XIXMLElement* written = heliodon->putInXML(target.element());
         ASSERT_NE(written, nullptr);
-        EXPECT_STREQ(CZelXMLGet(written).GetOptionalAttribute(each.attribute), each.label);
+        EXPECT_STREQ(CZelXMLGet(written).GetOptionalAttribute(std::string(each.attribute)),
+                     each.label);
     }
 }
 

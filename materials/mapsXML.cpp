@@ -31,8 +31,8 @@ void getOlderSubParts(const CZelXMLGet& in, TObjectMgr<CZelSubPart, IZelSubPart>
     for (XIXMLElement* maps = in.FindElement("Maps"); maps != nullptr; maps = maps->GetNextSame()) {
         CZelSubPart& part = appendFrom(CZelXMLGet(maps), list);
         const std::string texture = "Texture" + std::to_string(++number);
-        part.setHeight(in.GetDouble((texture + "Height").c_str()));
-        part.setWidth(in.GetDouble((texture + "Width").c_str()));
+        part.setHeight(in.GetDouble(texture + "Height"));
+        part.setWidth(in.GetDouble(texture + "Width"));
     }
 }
 

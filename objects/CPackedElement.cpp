@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-using OrvaneXML::CXMLAttribute;
 using OrvaneXML::CXMLElement;
 using OrvaneXML::CXMLNode;
+using OrvaneXML::SXMLName;
 using OrvaneXML::XIXMLElement;
 
 namespace OvZel {
@@ -95,10 +95,10 @@ private:
     void openElement(const CXMLElement& element)
     {
         putName(kElement, kKnownElement, element.Name()->view());
-        for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
-            putName(kAttribute, kKnownAttribute, item->Name()->view());
-            mBytes.append(item->Value()).push_back('\0');
-        }
+        element.Attributes().ForEach([this](const SXMLName* name, const char* value) {
+            putName(kAttribute, kKnownAttribute, name->view());
+            mBytes.append(value).push_back('\0');
+        });
         if (const char* text = element.LoneText())
             putTexts(kText, {text});
     }
@@ -168,6 +168,35 @@ std::string_view nextName(bool isKnown, const char*& place)
     return isKnown ? kKnownNames[static_cast<std::size_t>(*place++)] : nextText(place);
 }
 
+bool isAttribute(char letter)
+{
+    return letter == kAttribute || letter == kKnownAttribute;
+}
+
+/// Calls use(name, value) for each attribute that follows, and returns what stands behind them.
+template <class TUse>
+const char* forEachAttribute(const char* place, TUse use)
+{
+    while (isAttribute(*place)) {
+        const bool isKnown = *place++ == kKnownAttribute;
+        const std::string_view name = nextName(isKnown, place);
+        use(name, nextText(place));
+    }
+    return place;
+}
+
+const char* unpackAttributes(CXMLElement& element, const char* first)
+{
+    std::size_t nb = 0;
+    const char* behind = forEachAttribute(first, [&nb](std::string_view, const char*) { ++nb; });
+    element.FillAttributes(nb, [&element, first](auto use) {
+        forEachAttribute(first, [&](std::string_view name, const char* value) {
+            use(element.Store().names.Intern(name), value);
+        });
+    });
+    return behind;
+}
+
 } // namespace
 
 bool CPackedElement::pack(const XIXMLElement& element)
@@ -189,7 +218,6 @@ XIXMLElement* CPackedElement::unpackInto(XIXMLElement& parent) const
     auto* const outside = &static_cast<CXMLElement&>(parent);
     CXMLElement* top = nullptr;
     CXMLElement* open = outside;
-    CXMLAttribute* last = nullptr;
     do {
         const char letter = *place++;
         switch (letter) {
@@ -197,14 +225,11 @@ XIXMLElement* CPackedElement::unpackInto(XIXMLElement& parent) const
         case kKnownElement:
             open = open->AppendElement(nextName(letter == kKnownElement, place));
             top = top == nullptr ? open : top;
-            last = nullptr;
             break;
         case kAttribute:
-        case kKnownAttribute: {
-            const std::string_view name = nextName(letter == kKnownAttribute, place);
-            last = open->AppendAttribute(last, open->Store().names.Intern(name), nextText(place));
+        case kKnownAttribute:
+            place = unpackAttributes(*open, place - 1);
             break;
-        }
         case kText: {
             const char* text = nextText(place);
             if (*text != '\0' && open->IsEmpty())

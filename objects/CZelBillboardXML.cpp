@@ -12,11 +12,6 @@ namespace {
 // The last label is not that of the instances' kind.
 constexpr CZelLabel kKinds[] = {{"Flat", 0}, {"Uniface", 1}, {"Multifaces", 2}, {nullptr, 0}};
 
-bool isLetter(std::uint32_t code)
-{
-    return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z');
-}
-
 } // namespace
 
 void CZelBillboard::addTo(CZelXMLIO&, const CZelXMLAdd& out) const
@@ -46,29 +41,20 @@ void CZelBillboard::addNames(const CZelXMLAdd& out) const
 {
     for (std::int32_t i = 0; i < mNames->size(); ++i) {
         const CZelBBName& name = *mNames->at(i);
-        const std::uint32_t key = name.getLanguage();
-        // Anything but two letters would not be the name of an attribute.
-        if (!isLetter(key >> 8) || !isLetter(key & 0xFF))
-            continue;
-        const char code[3] = {static_cast<char>(key >> 8), static_cast<char>(key & 0xFF), '\0'};
-        out.AddAttribute(code, name.getText());
+        out.AddLanguage(name.getLanguage(), name.getText());
     }
 }
 
 void CZelBillboard::getNamesFrom(const CZelXMLGet& in)
 {
-    const OrvaneXML::XIXMLElement* names = in.GetElement("Names");
+    const CZelXMLGet names(in.GetElement("Names"));
     mNames->removeAllObjects();
-    for (const OrvaneXML::XIXMLAttribute* text = names->GetFirstAttribute(); text != nullptr;
-         text = text->GetNext()) {
-        const char* code = text->GetKey();
-        const auto first = static_cast<unsigned char>(code[0]);
-        const auto second = static_cast<unsigned char>(first != 0 ? code[1] : '\0');
+    names.ForEachLanguage([this](std::uint32_t language, const char* text) {
         CZelBBName* name = mNames->append();
         OvThrow::IfNULL(name);
-        name->setLanguage(first * 256U + second);
-        name->setText(text->GetValue());
-    }
+        name->setLanguage(language);
+        name->setText(text);
+    });
 }
 
 } // namespace OvZel

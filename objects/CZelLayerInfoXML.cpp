@@ -34,7 +34,7 @@ void CZelLayerInfo::getFrom(CZelXMLIO&, const CZelXMLGet& in)
     if (!in.IsElement("Default.Layer.Map"))
         return;
     const CZelXMLGet layers(in.GetElement("Default.Layer.Map"));
-    const auto take = [&](const char* attribute, const char* objectClass) {
+    const auto take = [&](OrvaneXML::CXMLTag attribute, const char* objectClass) {
         if (layers.GetOptionalAttribute(attribute) != nullptr)
             setDefaultLayer(objectClass, layers.GetUUID(attribute));
     };

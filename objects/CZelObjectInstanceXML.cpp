@@ -11,7 +11,7 @@ namespace {
 constexpr CZelLabel kAnimationBehaviors[] = {
     {"Normal", 0}, {"FollowOnPath", 1}, {"FollowOnPathXY", 2}, {nullptr, 0}};
 
-void addEnglish(const CZelXMLAdd& out, const char* tag, const char* text)
+void addEnglish(const CZelXMLAdd& out, OrvaneXML::CXMLTag tag, const char* text)
 {
     CZelXMLAdd(out.AddElement(tag)).AddAttribute("en", text);
 }

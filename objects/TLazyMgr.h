@@ -20,12 +20,13 @@ public:
         return mMgr.get();
     }
 
-    void addItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, const char* itemTag) const
+    void addItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container,
+                  OrvaneXML::CXMLTag itemTag) const
     {
         if (mMgr)
             OvZel::addItems(io, container, itemTag, *mMgr);
     }
-    void getItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, const char* itemTag,
+    void getItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, OrvaneXML::CXMLTag itemTag,
                   IZelObjectLink* owner)
     {
         if (mMgr || CZelXMLGet(container).IsElement(itemTag))

@@ -5,16 +5,16 @@
 namespace OvZel {
 
 /// Destroys the children of that name, which a save is about to write again; returns the name.
-inline const char* renewed(const CZelXMLAdd& data, const char* tag)
+inline OrvaneXML::CXMLTag renewed(const CZelXMLAdd& data, OrvaneXML::CXMLTag tag)
 {
     data.DestroyElements(tag);
     return tag;
 }
 
 /// The same for attributes.
-inline const char* renewedAttribute(const CZelXMLAdd& data, const char* name)
+inline OrvaneXML::CXMLTag renewedAttribute(const CZelXMLAdd& data, OrvaneXML::CXMLTag name)
 {
-    data.element()->RemoveAttribute(data.element()->MakeKey(name));
+    data.element()->RemoveAttribute(data.element()->MakeKey(name.text()));
     return name;
 }
 

@@ -27,7 +27,7 @@ constexpr CZelLabel kColorBehaviors[] = {
 
 /// Labels stand in children here, unlike those of all other elements. The text of the child, or of
 /// the attribute of that name, or null.
-const char* findLabel(const CZelXMLGet& in, const char* tag)
+const char* findLabel(const CZelXMLGet& in, OrvaneXML::CXMLTag tag)
 {
     return in.IsElement(tag) ? in.GetText(tag) : in.GetOptionalAttribute(tag);
 }

@@ -34,8 +34,8 @@ CZelColor toColor(const std::uint8_t (&bytes)[4])
 
 void getIfThere(double& value, const CZelXMLGet& in, const std::string& tag)
 {
-    if (in.IsElement(tag.c_str()))
-        value = in.GetDouble(tag.c_str());
+    if (in.IsElement(tag))
+        value = in.GetDouble(tag);
 }
 
 /// The name is the child's text. Without text the attribute counts that other names here have.
@@ -54,12 +54,12 @@ void addRenderParameters(const CZelRenderParameters& parameters, CZelXMLAdd out)
     for (int i = 0; i < CZelRenderParameters::kNbEntries; ++i) {
         const CZelRenderParameters::CEntry& entry = parameters.entries[i];
         const CTags tags(i);
-        out.AddDouble(tags.value.c_str(), entry.value);
-        out.AddDouble(tags.minimum.c_str(), entry.minimum);
-        out.AddDouble(tags.maximum.c_str(), entry.maximum);
-        out.AddBoolean(tags.flag.c_str(), entry.flag);
-        CZelXMLAdd(out.AddElement(tags.text.c_str())).AddAttribute("en", entry.text.c_str());
-        out.AddColor(tags.color.c_str(), toColor(entry.color));
+        out.AddDouble(tags.value, entry.value);
+        out.AddDouble(tags.minimum, entry.minimum);
+        out.AddDouble(tags.maximum, entry.maximum);
+        out.AddBoolean(tags.flag, entry.flag);
+        CZelXMLAdd(out.AddElement(tags.text)).AddAttribute("en", entry.text.c_str());
+        out.AddColor(tags.color, toColor(entry.color));
     }
 }
 
@@ -73,11 +73,11 @@ void getRenderParameters(CZelRenderParameters& parameters, const CZelXMLGet& in)
         getIfThere(entry.value, in, tags.value);
         getIfThere(entry.minimum, in, tags.minimum);
         getIfThere(entry.maximum, in, tags.maximum);
-        entry.flag = in.IsElement(tags.flag.c_str());
-        if (in.IsElement(tags.text.c_str()))
-            entry.text = in.GetAttributeLanguage(tags.text.c_str());
-        if (in.IsElement(tags.color.c_str()))
-            std::copy_n(in.GetColor(tags.color.c_str()).bytes, 4, entry.color);
+        entry.flag = in.IsElement(tags.flag);
+        if (in.IsElement(tags.text))
+            entry.text = in.GetAttributeLanguage(tags.text);
+        if (in.IsElement(tags.color))
+            std::copy_n(in.GetColor(tags.color).bytes, 4, entry.color);
     }
 }
 

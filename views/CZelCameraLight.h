@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/TZelXMLFrontierObjLink.h"
+#include "xml/tree/CXMLTag.h"
 
 #include <zel/IZelCameraLight.h>
 
@@ -30,7 +31,10 @@ public:
     void setPower(double power) override { mPower = power; }
 
     /// The name of its element, which follows the kind.
-    const char* tag() const { return mKind == kCamera ? "Camera.Light" : "Radiosity.Light"; }
+    OrvaneXML::CXMLTag tag() const
+    {
+        return mKind == kCamera ? OrvaneXML::CXMLTag("Camera.Light") : "Radiosity.Light";
+    }
 
     OrvaneXML::XIXMLElement* addXML(CZelXMLIO& io, OrvaneXML::XIXMLElement* element) override;
     bool getXML(CZelXMLIO& io, OrvaneXML::XIXMLElement* element) override;

@@ -2,6 +2,7 @@
 
 #include "core/OvThrow.h"
 #include "xml/hexWord.h"
+#include "xml/tree/CXMLElement.h"
 #include "xml/tree/CXMLText.h"
 
 #include <cstdarg>
@@ -34,27 +35,27 @@ CZelXMLAdd::CZelXMLAdd(XIXMLElement* element) : mElement(element)
     OvThrow::IfNULL(element, "CZelXMLAdd::CZelXMLAdd");
 }
 
-XIXMLElement* CZelXMLAdd::newChild(const char* tag) const
+XIXMLElement* CZelXMLAdd::newChild(CXMLTag tag) const
 {
-    return mElement->AddElement(mElement->MakeKey(tag));
+    return mElement->AddElement(mElement->MakeKey(tag.text()));
 }
 
-XIXMLElement* CZelXMLAdd::AddElement(const char* tag) const
+XIXMLElement* CZelXMLAdd::AddElement(CXMLTag tag) const
 {
     XIXMLElement* child = newChild(tag);
-    OvThrow::IfNULL(child, "CZelXMLAdd::AddElement", tag);
+    OvThrow::IfNULL(child, "CZelXMLAdd::AddElement", tag.text());
     return child;
 }
 
-XIXMLElement* CZelXMLAdd::ReuseElement(const char* tag) const
+XIXMLElement* CZelXMLAdd::ReuseElement(CXMLTag tag) const
 {
     DestroyElements(tag);
     return AddElement(tag);
 }
 
-void CZelXMLAdd::DestroyElements(const char* tag) const
+void CZelXMLAdd::DestroyElements(CXMLTag tag) const
 {
-    XIXMLElement* found = mElement->FindElement(mElement->MakeKey(tag));
+    XIXMLElement* found = mElement->FindElement(mElement->MakeKey(tag.text()));
     while (found != nullptr) {
         XIXMLElement* next = found->GetNextSame();
         found->Destroy();
@@ -62,12 +63,12 @@ void CZelXMLAdd::DestroyElements(const char* tag) const
     }
 }
 
-XIXMLElement* CZelXMLAdd::AddBoolean(const char* tag, bool value) const
+XIXMLElement* CZelXMLAdd::AddBoolean(CXMLTag tag, bool value) const
 {
     return value ? newChild(tag) : nullptr;
 }
 
-XIXMLElement* CZelXMLAdd::addText(const char* tag, const char* text) const
+XIXMLElement* CZelXMLAdd::addText(CXMLTag tag, const char* text) const
 {
     XIXMLElement* child = AddElement(tag);
     if (*text != '\0')
@@ -75,78 +76,77 @@ XIXMLElement* CZelXMLAdd::addText(const char* tag, const char* text) const
     return child;
 }
 
-XIXMLElement* CZelXMLAdd::AddInteger(const char* tag, std::int32_t value) const
+XIXMLElement* CZelXMLAdd::AddInteger(CXMLTag tag, std::int32_t value) const
 {
     char text[OrvaneXML::kLongestReal];
     OrvaneXML::printInteger(text, value);
     return addText(tag, text);
 }
 
-XIXMLElement* CZelXMLAdd::AddInteger64(const char* tag, std::int64_t value) const
+XIXMLElement* CZelXMLAdd::AddInteger64(CXMLTag tag, std::int64_t value) const
 {
     char text[OrvaneXML::kLongestReal];
     OrvaneXML::printTextf(text, sizeof text, "%lld", static_cast<long long>(value));
     return addText(tag, text);
 }
 
-XIXMLElement* CZelXMLAdd::AddDouble(const char* tag, double value) const
+XIXMLElement* CZelXMLAdd::AddDouble(CXMLTag tag, double value) const
 {
     char text[OrvaneXML::kLongestReal];
     OrvaneXML::printReal(text, value);
     return addText(tag, text);
 }
 
-XIXMLElement* CZelXMLAdd::AddFloat(const char* tag, float value) const
+XIXMLElement* CZelXMLAdd::AddFloat(CXMLTag tag, float value) const
 {
     return AddDouble(tag, static_cast<double>(value));
 }
 
-XIXMLElement* CZelXMLAdd::AddText(const char* tag, const char* text) const
+XIXMLElement* CZelXMLAdd::AddText(CXMLTag tag, const char* text) const
 {
     return addText(tag, text != nullptr ? text : "");
 }
 
-XIXMLElement* CZelXMLAdd::AddFmtData(const char* tag, const char* format, ...) const
+XIXMLElement* CZelXMLAdd::AddFmtData(CXMLTag tag, const char* format, ...) const
 {
     char buffer[kFormattedSize];
     std::va_list arguments;
     va_start(arguments, format);
     const bool fits = print(buffer, format, arguments);
     va_end(arguments);
-    OvThrow::IfFalse(fits, "CZelXMLAdd::AddFmtData", tag);
+    OvThrow::IfFalse(fits, "CZelXMLAdd::AddFmtData", tag.text());
     return addText(tag, buffer);
 }
 
-void CZelXMLAdd::AddAttribute(const char* name, const char* text) const
+/// Every element is of the library's own trees. Through the interface an attribute would become an
+/// object that nobody wants.
+OrvaneXML::CXMLElement& CZelXMLAdd::own() const
 {
-    mElement->AddAttribute(mElement->MakeKey(name), text);
+    return static_cast<OrvaneXML::CXMLElement&>(*mElement);
 }
 
-void CZelXMLAdd::addReal(const char* name, double value) const
+void CZelXMLAdd::AddAttribute(CXMLTag name, const char* text) const
 {
-    char text[OrvaneXML::kLongestReal];
-    OrvaneXML::printReal(text, value);
-    AddAttribute(name, text);
+    own().SetAttribute(own().NameOf(name), OrvaneXML::textOrEmpty(text));
 }
 
-void CZelXMLAdd::AddFmtAttribute(const char* name, const char* format, ...) const
+void CZelXMLAdd::AddFmtAttribute(CXMLTag name, const char* format, ...) const
 {
     char buffer[kFormattedSize];
     std::va_list arguments;
     va_start(arguments, format);
     const bool fits = print(buffer, format, arguments);
     va_end(arguments);
-    OvThrow::IfFalse(fits, "CZelXMLAdd::AddFmtAttribute", name);
+    OvThrow::IfFalse(fits, "CZelXMLAdd::AddFmtAttribute", name.text());
     AddAttribute(name, buffer);
 }
 
-void CZelXMLAdd::AddAttributeLabel(const char* name, const CZelLabel* table,
-                                   std::int32_t value) const
+void CZelXMLAdd::AddAttributeLabel(CXMLTag name, const CZelLabel* table, std::int32_t value) const
 {
     AddAttribute(name, labelText(table, value));
 }
 
-void CZelXMLAdd::AddUUID(const char* name, const CZelUUID& id) const
+void CZelXMLAdd::AddUUID(CXMLTag name, const CZelUUID& id) const
 {
     char text[33];
     for (std::size_t i = 0; i < 4; ++i)

@@ -1,6 +1,8 @@
 #include "xml/CZelXMLAdd.h"
 
 #include "core/OvThrow.h"
+#include "xml/tree/CXMLElement.h"
+#include "xml/tree/CXMLText.h"
 
 #include <zel/ITable.h>
 #include <zel/IZelPlace.h>
@@ -22,31 +24,44 @@ bool isLetter(std::uint32_t c)
 
 } // namespace
 
-XIXMLElement* CZelXMLAdd::AddColor(const char* tag, const CZelColor& color) const
+template <class TValue, std::size_t kNb, class TPrint>
+void CZelXMLAdd::fill(const TPart<TValue> (&parts)[kNb], TPrint print) const
+{
+    own().FillAttributes(kNb, [&](auto use) {
+        for (const auto& [name, value] : parts) {
+            char text[OrvaneXML::kLongestReal];
+            print(text, value);
+            use(own().NameOf(name), text);
+        }
+    });
+}
+
+XIXMLElement* CZelXMLAdd::AddColor(CXMLTag tag, const CZelColor& color) const
 {
     const CZelXMLAdd child(newChild(tag));
-    child.AddFmtAttribute("R", "%d", color.bytes[1]);
-    child.AddFmtAttribute("G", "%d", color.bytes[2]);
-    child.AddFmtAttribute("B", "%d", color.bytes[3]);
+    const TPart<std::uint8_t> parts[] = {
+        {"R", color.bytes[1]}, {"G", color.bytes[2]}, {"B", color.bytes[3]}};
+    child.fill(parts, [](char(&text)[OrvaneXML::kLongestReal], std::uint8_t value) {
+        OrvaneXML::printInteger(text, value);
+    });
     return child.element();
 }
 
-XIXMLElement* CZelXMLAdd::AddCoord2D(const char* tag, double x, double y) const
+XIXMLElement* CZelXMLAdd::AddCoord2D(CXMLTag tag, double x, double y) const
 {
     const CZelXMLAdd child(newChild(tag));
-    child.addReal("X", x);
-    child.addReal("Y", y);
+    const TPart<double> parts[] = {{"X", x}, {"Y", y}};
+    child.fill(parts, OrvaneXML::printReal);
     return child.element();
 }
 
 void CZelXMLAdd::addXYZ(const double* xyz) const
 {
-    addReal("X", xyz[0]);
-    addReal("Y", xyz[1]);
-    addReal("Z", xyz[2]);
+    const TPart<double> parts[] = {{"X", xyz[0]}, {"Y", xyz[1]}, {"Z", xyz[2]}};
+    fill(parts, OrvaneXML::printReal);
 }
 
-XIXMLElement* CZelXMLAdd::AddCoord3D(const char* tag, const CZelPoint& vector) const
+XIXMLElement* CZelXMLAdd::AddCoord3D(CXMLTag tag, const CZelPoint& vector) const
 {
     const double xyz[3] = {vector.x, vector.y, vector.z};
     const CZelXMLAdd child(newChild(tag));
@@ -63,7 +78,7 @@ XIXMLElement* CZelXMLAdd::AddTriangle(const double* triangle) const
     return child.element();
 }
 
-XIXMLElement* CZelXMLAdd::AddZelMatrix(const char* tag, const double* matrix) const
+XIXMLElement* CZelXMLAdd::AddZelMatrix(CXMLTag tag, const double* matrix) const
 {
     const CZelXMLAdd child(newChild(tag));
     for (int k = 0; k < 4; ++k) {
@@ -74,7 +89,7 @@ XIXMLElement* CZelXMLAdd::AddZelMatrix(const char* tag, const double* matrix) co
     return child.element();
 }
 
-XIXMLElement* CZelXMLAdd::AddDate(const char* tag, const IZelTime& time) const
+XIXMLElement* CZelXMLAdd::AddDate(CXMLTag tag, const IZelTime& time) const
 {
     const CZelXMLAdd child(newChild(tag));
     child.AddInteger("Month", time.getMonth());
@@ -95,7 +110,7 @@ XIXMLElement* CZelXMLAdd::AddPlace(const IZelPlace& place) const
     return child.element();
 }
 
-XIXMLElement* CZelXMLAdd::AddTable(const char* tag, const ITable& table) const
+XIXMLElement* CZelXMLAdd::AddTable(CXMLTag tag, const ITable& table) const
 {
     const CZelXMLAdd child(newChild(tag));
     const std::int32_t length = table.getLength();
@@ -105,22 +120,26 @@ XIXMLElement* CZelXMLAdd::AddTable(const char* tag, const ITable& table) const
     return child.element();
 }
 
-XIXMLElement* CZelXMLAdd::AddLanguages(const char* tag, const IZelString& string) const
+void CZelXMLAdd::AddLanguage(std::uint32_t language, const char* text) const
+{
+    if (!isLetter(language >> 8) || !isLetter(language & 0xFF))
+        return;
+    const std::string name{static_cast<char>(language >> 8), static_cast<char>(language & 0xFF)};
+    AddAttribute(name, text);
+}
+
+XIXMLElement* CZelXMLAdd::AddLanguages(CXMLTag tag, const IZelString& string) const
 {
     const CZelXMLAdd child(newChild(tag));
     const std::uint32_t nbTexts = string.getNbTexts();
     for (std::uint32_t i = 0; i < nbTexts; ++i) {
         const std::uint32_t key = string.getLanguageKey(i);
-        // Anything but two letters would not be the name of an attribute.
-        if (!isLetter(key >> 8) || !isLetter(key & 0xFF))
-            continue;
-        const char name[3] = {static_cast<char>(key >> 8), static_cast<char>(key & 0xFF), '\0'};
-        child.AddAttribute(name, string.getText(key));
+        child.AddLanguage(key, string.getText(key));
     }
     return child.element();
 }
 
-XIXMLElement* CZelXMLAdd::AddIdList(const char* listTag, const char* itemTag,
+XIXMLElement* CZelXMLAdd::AddIdList(CXMLTag listTag, CXMLTag itemTag,
                                     TZelObjectMgr<CZelUUID>& list) const
 {
     DestroyElements(listTag);

@@ -2,6 +2,7 @@
 
 #include "core/OvThrow.h"
 #include "xml/hexWord.h"
+#include "xml/tree/CXMLElement.h"
 #include "xml/tree/CXMLText.h"
 
 #include <cstdarg>
@@ -9,7 +10,7 @@
 
 namespace OvZel {
 
-using OrvaneXML::XIXMLAttribute;
+using OrvaneXML::CXMLElement;
 using OrvaneXML::XIXMLElement;
 
 namespace {
@@ -42,47 +43,54 @@ CZelXMLGet::CZelXMLGet(XIXMLElement* element) : mElement(element)
     OvThrow::IfNULL(element, "CZelXMLGet::CZelXMLGet");
 }
 
-XIXMLElement* CZelXMLGet::FindElement(const char* tag) const
+/// Every element is of the library's own trees. Asking it directly spares the tree the objects that
+/// it makes for those who ask through the interfaces.
+const CXMLElement& CZelXMLGet::own() const
 {
-    return mElement->FindElement(mElement->MakeKey(tag));
+    return static_cast<const CXMLElement&>(*mElement);
 }
 
-XIXMLElement* CZelXMLGet::GetElement(const char* tag) const
+XIXMLElement* CZelXMLGet::FindElement(CXMLTag tag) const
+{
+    return own().FindChild(own().NameOf(tag));
+}
+
+XIXMLElement* CZelXMLGet::GetElement(CXMLTag tag) const
 {
     XIXMLElement* found = FindElement(tag);
-    OvThrow::IfNULL(found, "CZelXMLGet::GetElement", tag);
+    OvThrow::IfNULL(found, "CZelXMLGet::GetElement", tag.text());
     return found;
 }
 
-std::int32_t CZelXMLGet::GetInteger(const char* tag) const
+std::int32_t CZelXMLGet::GetInteger(CXMLTag tag) const
 {
     int value = 0;
     OrvaneXML::scanInteger(requiredText(GetElement(tag), "CZelXMLGet::GetInteger"), value);
     return value;
 }
 
-std::int64_t CZelXMLGet::GetInteger64(const char* tag) const
+std::int64_t CZelXMLGet::GetInteger64(CXMLTag tag) const
 {
     long long value = 0;
     OrvaneXML::scanTextf(requiredText(GetElement(tag), "CZelXMLGet::GetInteger64"), "%lld", &value);
     return value;
 }
 
-double CZelXMLGet::GetDouble(const char* tag) const
+double CZelXMLGet::GetDouble(CXMLTag tag) const
 {
     double value = 0.0;
     OrvaneXML::scanReal(requiredText(GetElement(tag), "CZelXMLGet::GetDouble"), value);
     return value;
 }
 
-float CZelXMLGet::GetFloat(const char* tag) const
+float CZelXMLGet::GetFloat(CXMLTag tag) const
 {
     double value = 0.0;
     OrvaneXML::scanReal(requiredText(GetElement(tag), "CZelXMLGet::GetFloat"), value);
     return static_cast<float>(value);
 }
 
-const char* CZelXMLGet::GetText(const char* tag) const
+const char* CZelXMLGet::GetText(CXMLTag tag) const
 {
     return GetElement(tag)->GetNode()->GetText();
 }
@@ -98,27 +106,21 @@ int CZelXMLGet::GetFmtData(XIXMLElement* element, const char* format, ...)
     return nbStored;
 }
 
-XIXMLAttribute* CZelXMLGet::findAttribute(const char* name) const
+const char* CZelXMLGet::GetOptionalAttribute(CXMLTag name) const
 {
-    return mElement->FindAttribute(mElement->MakeKey(name));
+    return own().Attributes().ValueOf(own().NameOf(name));
 }
 
-XIXMLAttribute* CZelXMLGet::getAttribute(const char* name, const char* operation) const
+const char* CZelXMLGet::getAttribute(CXMLTag name, const char* operation) const
 {
-    XIXMLAttribute* attribute = findAttribute(name);
-    OvThrow::IfNULL(attribute, operation, name);
-    return attribute;
+    const char* value = GetOptionalAttribute(name);
+    OvThrow::IfNULL(value, operation, name.text());
+    return value;
 }
 
-const char* CZelXMLGet::GetOptionalAttribute(const char* name) const
+int CZelXMLGet::GetFmtAttribute(CXMLTag name, const char* format, ...) const
 {
-    const XIXMLAttribute* attribute = findAttribute(name);
-    return attribute != nullptr ? attribute->GetValue() : nullptr;
-}
-
-int CZelXMLGet::GetFmtAttribute(const char* name, const char* format, ...) const
-{
-    const char* text = getAttribute(name, "CZelXMLGet::GetFmtAttribute")->GetValue();
+    const char* text = getAttribute(name, "CZelXMLGet::GetFmtAttribute");
     std::va_list arguments;
     va_start(arguments, format);
     const int nbStored = OrvaneXML::scanText(text, format, arguments);
@@ -126,17 +128,17 @@ int CZelXMLGet::GetFmtAttribute(const char* name, const char* format, ...) const
     return nbStored;
 }
 
-CZelUUID CZelXMLGet::GetUUID(const char* name) const
+CZelUUID CZelXMLGet::GetUUID(CXMLTag name) const
 {
-    return toId(getAttribute(name, "CZelXMLGet::GetUUID")->GetValue());
+    return toId(getAttribute(name, "CZelXMLGet::GetUUID"));
 }
 
-std::int32_t CZelXMLGet::GetAttributeLabel(const char* name, const CZelLabel* table) const
+std::int32_t CZelXMLGet::GetAttributeLabel(CXMLTag name, const CZelLabel* table) const
 {
-    return labelValue(table, getAttribute(name, "CZelXMLGet::GetAttributeLabel")->GetValue());
+    return labelValue(table, getAttribute(name, "CZelXMLGet::GetAttributeLabel"));
 }
 
-const char* CZelXMLGet::GetAttributeLanguage(const char* tag) const
+const char* CZelXMLGet::GetAttributeLanguage(CXMLTag tag) const
 {
     const char* text = child(tag).GetOptionalAttribute("en");
     OvThrow::IfNULL(text, "CZelXMLGet::GetAttributeLanguage");

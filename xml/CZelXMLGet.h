@@ -1,6 +1,7 @@
 #pragma once
 
 #include "xml/CZelLabel.h"
+#include "xml/tree/CXMLTag.h"
 
 #include <zel/CZelColor.h>
 #include <zel/CZelPoint.h>
@@ -10,12 +11,19 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 
 #if defined(__GNUC__)
 #define ZEL_SCANF(text, first) __attribute__((format(scanf, text, first)))
 #else
 #define ZEL_SCANF(text, first)
 #endif
+
+namespace OrvaneXML {
+
+class CXMLElement;
+
+}
 
 namespace OvZel {
 
@@ -33,6 +41,7 @@ class IZelTime;
 /// reads as 0.
 class CZelXMLGet {
 public:
+    using CXMLTag = OrvaneXML::CXMLTag;
     using XIXMLElement = OrvaneXML::XIXMLElement;
 
     /// Raises "CZelXMLGet::CZelXMLGet - NULL ptr" on a null element.
@@ -40,32 +49,35 @@ public:
 
     XIXMLElement* element() const { return mElement; }
 
-    bool IsElement(const char* tag) const { return FindElement(tag) != nullptr; }
+    bool IsElement(CXMLTag tag) const { return FindElement(tag) != nullptr; }
     /// The first child of the name, or null.
-    XIXMLElement* FindElement(const char* tag) const;
+    XIXMLElement* FindElement(CXMLTag tag) const;
     /// The first child of the name.
-    XIXMLElement* GetElement(const char* tag) const;
+    XIXMLElement* GetElement(CXMLTag tag) const;
 
-    std::int32_t GetInteger(const char* tag) const;
-    std::int64_t GetInteger64(const char* tag) const;
-    double GetDouble(const char* tag) const;
-    float GetFloat(const char* tag) const;
+    std::int32_t GetInteger(CXMLTag tag) const;
+    std::int64_t GetInteger64(CXMLTag tag) const;
+    double GetDouble(CXMLTag tag) const;
+    float GetFloat(CXMLTag tag) const;
     /// The text of a child, the empty text if it has none. Good until the child changes.
-    const char* GetText(const char* tag) const;
+    const char* GetText(CXMLTag tag) const;
     /// Scans the text of the element as XIXMLData::Scan does, and returns as that does.
     static int GetFmtData(XIXMLElement* element, const char* format, ...) ZEL_SCANF(2, 3);
 
     /// The value, or null. Good until the attribute changes.
-    const char* GetOptionalAttribute(const char* name) const;
-    int GetFmtAttribute(const char* name, const char* format, ...) const ZEL_SCANF(3, 4);
+    const char* GetOptionalAttribute(CXMLTag name) const;
+    int GetFmtAttribute(CXMLTag name, const char* format, ...) const ZEL_SCANF(3, 4);
     /// Digits of either case; "CZelUUID::Hex2Int: Invalid hex value" for anything else.
-    CZelUUID GetUUID(const char* name) const;
+    CZelUUID GetUUID(CXMLTag name) const;
     /// Raises "Invalid label (%s) [%s..%s]" for a text that the table does not have.
-    std::int32_t GetAttributeLabel(const char* name, const CZelLabel* table) const;
+    std::int32_t GetAttributeLabel(CXMLTag name, const CZelLabel* table) const;
     /// The value of the attribute "en" of the child.
-    const char* GetAttributeLanguage(const char* tag) const;
+    const char* GetAttributeLanguage(CXMLTag tag) const;
     /// Empties the text and fills it from the attributes of the child. Without it nothing changes.
-    void GetLanguages(const char* tag, IZelString& string) const;
+    void GetLanguages(CXMLTag tag, IZelString& string) const;
+    /// Calls use(language, text) for each attribute of the wrapped element; the languages are
+    /// two letters in one number.
+    void ForEachLanguage(const std::function<void(std::uint32_t, const char*)>& use) const;
 
     /// "X" and "Y" of the wrapped element; each is required.
     std::array<double, 2> GetCoord2D() const;
@@ -73,36 +85,36 @@ public:
     CZelPoint GetCoord3D() const;
     /// These five pass through the read transform. A missing coordinate is 0, but 1 for the "Z" of
     /// a direction.
-    CZelPoint GetPoint(const char* tag, const IZelMgrRef* mgrRef) const;
-    CZelPoint GetVector(const char* tag, const IZelMgrRef* mgrRef) const;
-    CZelPoint GetDirection(const char* tag, const IZelMgrRef* mgrRef) const;
+    CZelPoint GetPoint(CXMLTag tag, const IZelMgrRef* mgrRef) const;
+    CZelPoint GetVector(CXMLTag tag, const IZelMgrRef* mgrRef) const;
+    CZelPoint GetDirection(CXMLTag tag, const IZelMgrRef* mgrRef) const;
     /// As that of a tag, from the wrapped element.
     CZelPoint GetPoint(const IZelMgrRef* mgrRef) const;
     /// Three corners of the child "Triangle".
     std::array<double, 9> GetTriangle(const IZelMgrRef* mgrRef) const;
 
     /// Attributes "R", "G" and "B", or the children "Red", "Green" and "Blue" of older files.
-    CZelColor GetColor(const char* tag) const;
+    CZelColor GetColor(CXMLTag tag) const;
     /// The same of the wrapped element.
     CZelColor GetColor() const;
     /// Sixteen doubles in row order. Four lines are required, each with four numbers.
-    std::array<double, 16> GetZelMatrix(const char* tag) const;
+    std::array<double, 16> GetZelMatrix(CXMLTag tag) const;
     /// Sets part after part. "Year" alone is optional.
-    void GetDate(const char* tag, IZelTime& time) const;
+    void GetDate(CXMLTag tag, IZelTime& time) const;
     /// Reads the child "Place"; a time zone in hours, as in older files, becomes minutes.
     void GetPlace(IZelPlace& place) const;
     /// A "Length" below 1 gives an empty table. When entries are missing the table keeps those that
     /// the file has.
-    void GetTable(const char* tag, ITable& table) const;
+    void GetTable(CXMLTag tag, ITable& table) const;
     /// Empties the list first, also when the child is missing.
-    void GetIdList(const char* listTag, const char* itemTag, TZelObjectMgr<CZelUUID>& list) const;
+    void GetIdList(CXMLTag listTag, CXMLTag itemTag, TZelObjectMgr<CZelUUID>& list) const;
 
 private:
-    OrvaneXML::XIXMLAttribute* findAttribute(const char* name) const;
-    OrvaneXML::XIXMLAttribute* getAttribute(const char* name, const char* operation) const;
-    double optionalCoord(const char* name, double start) const;
+    const OrvaneXML::CXMLElement& own() const;
+    const char* getAttribute(CXMLTag name, const char* operation) const;
+    double optionalCoord(CXMLTag name, double start) const;
     std::array<double, 3> optionalXYZ(const std::array<double, 3>& start) const;
-    CZelXMLGet child(const char* tag) const { return CZelXMLGet(FindElement(tag)); }
+    CZelXMLGet child(CXMLTag tag) const { return CZelXMLGet(FindElement(tag)); }
 
     XIXMLElement* mElement;
 };

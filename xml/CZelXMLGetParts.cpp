@@ -1,6 +1,7 @@
 #include "xml/CZelXMLGet.h"
 
 #include "core/OvThrow.h"
+#include "xml/tree/CXMLElement.h"
 #include "xml/tree/CXMLText.h"
 
 #include <zel/ITable.h>
@@ -15,7 +16,7 @@
 
 namespace OvZel {
 
-using OrvaneXML::XIXMLAttribute;
+using OrvaneXML::SXMLName;
 using OrvaneXML::XIXMLElement;
 
 namespace {
@@ -49,19 +50,24 @@ std::int32_t countUpTo(std::int32_t limit, XIXMLElement* first)
 
 } // namespace
 
-void CZelXMLGet::GetLanguages(const char* tag, IZelString& string) const
+void CZelXMLGet::GetLanguages(CXMLTag tag, IZelString& string) const
 {
     XIXMLElement* found = FindElement(tag);
     if (found == nullptr)
         return;
     string.clear();
-    for (const XIXMLAttribute* text = found->GetFirstAttribute(); text != nullptr;
-         text = text->GetNext()) {
-        const char* name = text->GetKey();
-        const auto first = static_cast<unsigned char>(name[0]);
-        const auto second = static_cast<unsigned char>(first != 0 ? name[1] : '\0');
-        string.setText(first * 256U + second, text->GetValue());
-    }
+    CZelXMLGet(found).ForEachLanguage(
+        [&string](std::uint32_t language, const char* text) { string.setText(language, text); });
+}
+
+void CZelXMLGet::ForEachLanguage(const std::function<void(std::uint32_t, const char*)>& use) const
+{
+    own().Attributes().ForEach([&use](const SXMLName* name, const char* text) {
+        const char* letters = name->text();
+        const auto first = static_cast<unsigned char>(letters[0]);
+        const auto second = static_cast<unsigned char>(first != 0 ? letters[1] : '\0');
+        use(first * 256U + second, text);
+    });
 }
 
 std::array<double, 2> CZelXMLGet::GetCoord2D() const
@@ -81,13 +87,13 @@ CZelPoint CZelXMLGet::GetCoord3D() const
     return point;
 }
 
-double CZelXMLGet::optionalCoord(const char* name, double start) const
+double CZelXMLGet::optionalCoord(CXMLTag name, double start) const
 {
-    const XIXMLAttribute* attribute = findAttribute(name);
-    if (attribute == nullptr)
+    const char* text = GetOptionalAttribute(name);
+    if (text == nullptr)
         return start;
     double value = 0.0;
-    OrvaneXML::scanReal(attribute->GetValue(), value);
+    OrvaneXML::scanReal(text, value);
     return value;
 }
 
@@ -97,7 +103,7 @@ std::array<double, 3> CZelXMLGet::optionalXYZ(const std::array<double, 3>& start
             optionalCoord("Z", start[2])};
 }
 
-CZelPoint CZelXMLGet::GetPoint(const char* tag, const IZelMgrRef* mgrRef) const
+CZelPoint CZelXMLGet::GetPoint(CXMLTag tag, const IZelMgrRef* mgrRef) const
 {
     return child(tag).GetPoint(mgrRef);
 }
@@ -109,14 +115,14 @@ CZelPoint CZelXMLGet::GetPoint(const IZelMgrRef* mgrRef) const
     return toPoint(xyz);
 }
 
-CZelPoint CZelXMLGet::GetVector(const char* tag, const IZelMgrRef* mgrRef) const
+CZelPoint CZelXMLGet::GetVector(CXMLTag tag, const IZelMgrRef* mgrRef) const
 {
     auto xyz = child(tag).optionalXYZ({0.0, 0.0, 0.0});
     mgrRef->transformVector(xyz.data());
     return toPoint(xyz);
 }
 
-CZelPoint CZelXMLGet::GetDirection(const char* tag, const IZelMgrRef* mgrRef) const
+CZelPoint CZelXMLGet::GetDirection(CXMLTag tag, const IZelMgrRef* mgrRef) const
 {
     auto xyz = child(tag).optionalXYZ({0.0, 0.0, 1.0});
     mgrRef->transformNormal(xyz.data());
@@ -132,26 +138,25 @@ std::array<double, 9> CZelXMLGet::GetTriangle(const IZelMgrRef* mgrRef) const
     return {p0.x, p0.y, p0.z, p1.x, p1.y, p1.z, p2.x, p2.y, p2.z};
 }
 
-CZelColor CZelXMLGet::GetColor(const char* tag) const
+CZelColor CZelXMLGet::GetColor(CXMLTag tag) const
 {
     return child(tag).GetColor();
 }
 
 CZelColor CZelXMLGet::GetColor() const
 {
-    const auto part = [this](const char* name) {
+    const auto part = [this](CXMLTag name) {
         std::int32_t value = 0;
-        const char* text = getAttribute(name, "CZelXMLGet::GetFmtAttribute")->GetValue();
-        OrvaneXML::scanInteger(text, value);
+        OrvaneXML::scanInteger(getAttribute(name, "CZelXMLGet::GetFmtAttribute"), value);
         return lowByte(value);
     };
-    if (findAttribute("R") != nullptr)
+    if (GetOptionalAttribute("R") != nullptr)
         return {{0, part("R"), part("G"), part("B")}};
     return {
         {0, lowByte(GetInteger("Red")), lowByte(GetInteger("Green")), lowByte(GetInteger("Blue"))}};
 }
 
-std::array<double, 16> CZelXMLGet::GetZelMatrix(const char* tag) const
+std::array<double, 16> CZelXMLGet::GetZelMatrix(CXMLTag tag) const
 {
     std::array<double, 16> m = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
     XIXMLElement* line = CZelXMLGet(GetElement(tag)).FindElement("Line");
@@ -161,12 +166,12 @@ std::array<double, 16> CZelXMLGet::GetZelMatrix(const char* tag) const
         OvThrow::IfNULL(text, "CZelXMLGet::GetZelMatrix");
         const int nbStored =
             text->Scan("%lf, %lf, %lf, %lf", &m[k], &m[4 + k], &m[8 + k], &m[12 + k]);
-        OvThrow::IfFalse(nbStored == 4, "CZelXMLGet::GetZelMatrix", tag);
+        OvThrow::IfFalse(nbStored == 4, "CZelXMLGet::GetZelMatrix", tag.text());
     }
     return m;
 }
 
-void CZelXMLGet::GetDate(const char* tag, IZelTime& time) const
+void CZelXMLGet::GetDate(CXMLTag tag, IZelTime& time) const
 {
     const CZelXMLGet date = child(tag);
     time.setMonth(date.GetInteger("Month")); // ahead of the day, which is clipped by the month
@@ -190,7 +195,7 @@ void CZelXMLGet::GetPlace(IZelPlace& place) const
     place.setDaylight(in.IsElement("Daylight"));
 }
 
-void CZelXMLGet::GetTable(const char* tag, ITable& table) const
+void CZelXMLGet::GetTable(CXMLTag tag, ITable& table) const
 {
     const CZelXMLGet in(GetElement(tag));
     std::int32_t length = 0;
@@ -209,8 +214,7 @@ void CZelXMLGet::GetTable(const char* tag, ITable& table) const
         OvThrow::SignalNULL("CZelXMLGet::GetTable 1");
 }
 
-void CZelXMLGet::GetIdList(const char* listTag, const char* itemTag,
-                           TZelObjectMgr<CZelUUID>& list) const
+void CZelXMLGet::GetIdList(CXMLTag listTag, CXMLTag itemTag, TZelObjectMgr<CZelUUID>& list) const
 {
     for (std::int32_t i = list.getNbObjects(); i > 0; --i)
         list.removeObject(i - 1);
@@ -218,13 +222,17 @@ void CZelXMLGet::GetIdList(const char* listTag, const char* itemTag,
     if (found == nullptr)
         return;
     // The oldest form: every attribute from "UUID" on is an identifier, whatever its name.
-    const XIXMLAttribute* id = CZelXMLGet(found).findAttribute("UUID");
-    if (id != nullptr) {
-        for (; id != nullptr; id = id->GetNext())
-            append(list, CZelUUID(id->GetValue()));
+    const CZelXMLGet in(found);
+    if (in.GetOptionalAttribute("UUID") != nullptr) {
+        bool isBehind = false;
+        in.own().Attributes().ForEach([&](const SXMLName* name, const char* id) {
+            isBehind = isBehind || name->Is("UUID");
+            if (isBehind)
+                append(list, CZelUUID(id));
+        });
         return;
     }
-    XIXMLElement* item = CZelXMLGet(found).FindElement(itemTag);
+    XIXMLElement* item = in.FindElement(itemTag);
     for (; item != nullptr; item = item->GetNextSame())
         append(list, CZelXMLGet(item).GetUUID("UUID"));
 }

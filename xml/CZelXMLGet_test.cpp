@@ -133,7 +133,7 @@ TEST(ZelXMLGet, ReadsIdentifiersInEitherCase)
                                 "C=\"01234567-89ABCDEFABCDEF0123456789\"/>");
     const CZelXMLGet in(document.element());
     EXPECT_EQ(in.GetUUID("A"), CZelUUID("0123456789ABCDEFABCDEF0123456789"));
-    for (const char* bad : {"B", "C"})
+    for (const OrvaneXML::CXMLTag bad : {OrvaneXML::CXMLTag("B"), OrvaneXML::CXMLTag("C")})
         EXPECT_EQ(messageOf([&] { in.GetUUID(bad); }), "CZelUUID::Hex2Int: Invalid hex value");
 }
 

@@ -9,7 +9,7 @@ namespace OvZel {
 
 /// Adds a child for each element of the list, in the order of the list.
 template <class Mgr>
-void addItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, const char* itemTag,
+void addItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, OrvaneXML::CXMLTag itemTag,
               const Mgr& list)
 {
     const CZelXMLAdd out(container);
@@ -20,7 +20,8 @@ void addItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, const char* ite
 /// Empties the list and fills it from the children of that name. What fails leaves the list with
 /// the elements before it and the one that failed.
 template <class Mgr>
-void getItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, const char* itemTag, Mgr& list)
+void getItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, OrvaneXML::CXMLTag itemTag,
+              Mgr& list)
 {
     list.removeAllObjects();
     for (OrvaneXML::XIXMLElement* child = CZelXMLGet(container).FindElement(itemTag);
@@ -33,8 +34,8 @@ void getItems(CZelXMLIO& io, OrvaneXML::XIXMLElement* container, const char* ite
 
 /// The same for a list that a file may lack: it is empty then.
 template <class Mgr>
-void getOptionalItems(CZelXMLIO& io, const CZelXMLGet& in, const char* listTag, const char* itemTag,
-                      Mgr& list)
+void getOptionalItems(CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag listTag,
+                      OrvaneXML::CXMLTag itemTag, Mgr& list)
 {
     list.removeAllObjects();
     if (OrvaneXML::XIXMLElement* container = in.FindElement(listTag))
@@ -43,8 +44,8 @@ void getOptionalItems(CZelXMLIO& io, const CZelXMLGet& in, const char* listTag, 
 
 /// The same for a list that every file has: without it the list is emptied and the read fails.
 template <class Mgr>
-void getRequiredItems(CZelXMLIO& io, const CZelXMLGet& in, const char* listTag, const char* itemTag,
-                      Mgr& list)
+void getRequiredItems(CZelXMLIO& io, const CZelXMLGet& in, OrvaneXML::CXMLTag listTag,
+                      OrvaneXML::CXMLTag itemTag, Mgr& list)
 {
     list.removeAllObjects();
     getItems(io, in.GetElement(listTag), itemTag, list);

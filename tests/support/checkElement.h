@@ -31,8 +31,8 @@ public:
         if constexpr (requires { mObject->addXML(mIo, target.element()); })
             mObject->addXML(mIo, target.element());
         else
-            mObject->addTo(mIo, OvZel::CZelXMLAdd(
-                                    OvZel::CZelXMLAdd(target.element()).AddElement(mTag.c_str())));
+            mObject->addTo(mIo,
+                           OvZel::CZelXMLAdd(OvZel::CZelXMLAdd(target.element()).AddElement(mTag)));
         return withoutDeclaration(target.text());
     }
 
@@ -44,9 +44,8 @@ public:
             if constexpr (requires { mObject->getXML(mIo, source.element()); })
                 mObject->getXML(mIo, source.element());
             else
-                mObject->getFrom(mIo,
-                                 OvZel::CZelXMLGet(
-                                     OvZel::CZelXMLGet(source.element()).GetElement(mTag.c_str())));
+                mObject->getFrom(
+                    mIo, OvZel::CZelXMLGet(OvZel::CZelXMLGet(source.element()).GetElement(mTag)));
         } catch (const std::exception& exception) {
             return exception.what()[0] != '\0' ? exception.what() : "(no text)";
         }

@@ -20,7 +20,7 @@ inline constexpr OvZel::CZelUUID kFullInfoId{"0000000000000000000000000000000F"}
 
 /// The element of a part as the part writes it.
 template <class Part>
-std::string partText(CTestDocument& document, const char* tag, const Part& part)
+std::string partText(CTestDocument& document, const std::string& tag, const Part& part)
 {
     CTestElement target;
     OvZel::CZelXMLIO io(document.ref(), true);

@@ -24,7 +24,7 @@ public:
     void Release(CXMLStore& store);
 
 private:
-    friend class CXMLElement;
+    friend class CXMLAttributes;
 
     CXMLAttribute* mNext = nullptr;
     const char* mValue;

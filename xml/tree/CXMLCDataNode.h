@@ -8,7 +8,10 @@ namespace OrvaneXML {
 /// tree that goes finds its providers without a walk.
 class CXMLCDataNode final : public CXMLNode {
 public:
-    explicit CXMLCDataNode(XIXMLData::IXMLCData* provider) : mProvider(provider) {}
+    explicit CXMLCDataNode(XIXMLData::IXMLCData* provider)
+        : CXMLNode(EKind::CData), mProvider(provider)
+    {
+    }
 
     /// Owns the provider from the moment that it returns.
     static CXMLCDataNode* Make(CXMLStore& store, XIXMLData::IXMLCData* provider);
@@ -17,7 +20,6 @@ public:
 
     const char* GetText() const override { return ""; }
     void SetText(const char* text) override;
-    EKind Kind() const override { return EKind::CData; }
     CXMLNode* Copy(CXMLStore& store) const override;
     void Release(CXMLStore& store) override;
 

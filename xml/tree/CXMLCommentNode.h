@@ -10,7 +10,7 @@ namespace OrvaneXML {
 /// A comment, counted in its tree while it has the end mark in its text.
 class CXMLCommentNode final : public CXMLNode, public XIXMLComment {
 public:
-    explicit CXMLCommentNode(const char* text) : mText(text) {}
+    explicit CXMLCommentNode(const char* text) : CXMLNode(EKind::Comment), mText(text) {}
 
     static CXMLCommentNode* Make(CXMLStore& store, std::string_view text)
     {
@@ -29,7 +29,6 @@ public:
         store.nbBad -= wasBad;
     }
     XIXMLComment* AsComment() override { return this; }
-    EKind Kind() const override { return EKind::Comment; }
     CXMLNode* Copy(CXMLStore& store) const override { return Make(store, mText); }
     void Release(CXMLStore& store) override
     {

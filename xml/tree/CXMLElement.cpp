@@ -39,7 +39,7 @@ void CXMLElement::Link(CXMLNode* child, CXMLNode* before)
 {
     Store().indexed = nullptr;
     CXMLNode* first = FirstChild();
-    child->mParent = this;
+    child->SetParent(this);
     child->mNext = before;
     CXMLNode* neighbour = before ? before : first; // whose previous is the node in front
     child->mPrevious = neighbour ? neighbour->mPrevious : child;
@@ -70,7 +70,7 @@ void CXMLElement::Unlink(CXMLNode* child)
         next->mPrevious = child->mPrevious;
     else if (CXMLNode* first = FirstNode())
         first->mPrevious = child->mPrevious;
-    child->mParent = nullptr;
+    child->SetParent(nullptr);
     child->mNext = child->mPrevious = nullptr;
 }
 
@@ -145,10 +145,13 @@ XIXMLElement* CXMLElement::GetNextSame() const
 
 XIXMLElement* CXMLElement::FindElement(XCXMLKey key) const
 {
-    const CXMLStore& store = Store();
-    const SXMLName* name = store.names.Find(key);
-    if (!name)
-        return nullptr;
+    const SXMLName* name = Store().names.Find(key);
+    return name ? FindChild(name) : nullptr;
+}
+
+CXMLElement* CXMLElement::FindChild(const SXMLName* name) const
+{
+    const CXMLStore& store = *name->store;
     if (store.indexed != this) {
         // A short way is walked. An element with many children is asked for most of them in turn.
         constexpr int kShortWay = 8;
@@ -260,7 +263,7 @@ void CXMLElement::AppendOwnCData(XIXMLData::IXMLCData* provider)
 
 XCXMLKey CXMLElement::MakeKey(const char* name) const
 {
-    return CXMLNames::KeyOf(Store().names.InternTag(textOrEmpty(name)));
+    return CXMLNames::KeyOf(Store().names.InternText(textOrEmpty(name)));
 }
 
 void CXMLElement::SetKey(XCXMLKey key)
@@ -308,9 +311,11 @@ CXMLNode* CXMLElement::Copy(CXMLStore& store) const
 {
     auto* copy = store.New<CXMLElement>(store.names.Resolve(GetKey()));
     store.nbBad += copy->mName->isBadElement();
-    CXMLAttribute* last = nullptr;
-    for (const CXMLAttribute* from = mFirstAttribute; from; from = from->mNext)
-        last = copy->AppendAttribute(last, store.names.Resolve(from->GetKey()), from->mValue);
+    copy->mAttributes.Fill(store, mAttributes.Count(), [&](auto use) {
+        mAttributes.ForEach([&](const SXMLName* name, const char* value) {
+            use(store.names.Resolve(CXMLNames::KeyOf(name)), value);
+        });
+    });
     if (const char* text = LoneText())
         copy->SetLoneText(text);
     return copy;
@@ -319,10 +324,7 @@ CXMLNode* CXMLElement::Copy(CXMLStore& store) const
 void CXMLElement::Release(CXMLStore& store)
 {
     DropLoneText();
-    while (CXMLAttribute* attribute = mFirstAttribute) {
-        mFirstAttribute = attribute->mNext;
-        attribute->Release(store);
-    }
+    mAttributes.Release(store);
     store.nbBad -= mName->isBadElement();
     store.pool.Free(this, sizeof *this);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "xml/tree/CXMLAttribute.h"
+#include "xml/tree/CXMLAttributes.h"
 #include "xml/tree/CXMLNode.h"
 
 #include <cstdint>
@@ -14,14 +14,13 @@ namespace OrvaneXML {
 /// somebody asks for the children, and becomes a node then.
 class CXMLElement final : public CXMLNode, public XIXMLElement {
 public:
-    explicit CXMLElement(const SXMLName* name) : mName(name) {}
+    explicit CXMLElement(const SXMLName* name) : CXMLNode(EKind::Element), mName(name) {}
 
     // The node view
     const char* GetText() const override;
     void SetText(const char* text) override;
     XIXMLElement* AsElement() override { return this; }
     void Destroy() override;
-    EKind Kind() const override { return EKind::Element; }
     CXMLStore& Store() const override { return *mName->store; }
     CXMLNode* Copy(CXMLStore& store) const override;
     void Release(CXMLStore& store) override;
@@ -45,7 +44,7 @@ public:
     XIXMLElement* GetNextElement() const override;
     XIXMLElement* FindElement(XCXMLKey key) const override;
     XIXMLElement* GetNextSame() const override;
-    XIXMLAttribute* GetFirstAttribute() const override { return mFirstAttribute; }
+    XIXMLAttribute* GetFirstAttribute() const override { return mAttributes.First(Store()); }
     XIXMLAttribute* FindAttribute(XCXMLKey key) const override;
     XIXMLData* AddComment(const char* text) override;
     bool RemoveAttribute(XCXMLKey key) override;
@@ -74,7 +73,10 @@ public:
     }
     CXMLNode* LastChild() const { return FirstChild() ? FirstChild()->mPrevious : nullptr; }
     CXMLNode* FirstOf(EKind kind) const;
-    CXMLAttribute* FirstAttribute() const { return mFirstAttribute; }
+    const CXMLAttributes& Attributes() const { return mAttributes; }
+    /// The first child element of a name of this tree, or null.
+    CXMLElement* FindChild(const SXMLName* name) const;
+    const SXMLName* NameOf(CXMLTag tag) const { return Store().names.InternTag(tag); }
 
     /// Throws if this is the root and the root cannot hold such a child.
     void CheckChild(EKind kind) const;
@@ -89,9 +91,14 @@ public:
     {
         return AppendNamed(Store().names.Intern(name));
     }
-    /// Links behind `last`, or as the only one, also when the name is there already.
-    CXMLAttribute* AppendAttribute(CXMLAttribute* last, const SXMLName* name,
-                                   std::string_view value);
+    /// All attributes of a new element; see CXMLAttributes::Fill.
+    template <class TForEach>
+    void FillAttributes(std::size_t nb, TForEach forEach)
+    {
+        mAttributes.Fill(Store(), nb, forEach);
+    }
+    /// As AddAttribute, which makes objects of all.
+    void SetAttribute(const SXMLName* name, std::string_view value);
     CXMLNode* InsertText(std::string_view text, CXMLNode* before);
     /// The element has no nodes and is not the root; the text is not empty.
     void SetLoneText(std::string_view text) { HoldText(Store().NewText(text)); }
@@ -103,7 +110,6 @@ private:
     /// Destroys the provider when this throws.
     void AppendOwnCData(XIXMLData::IXMLCData* provider);
     CXMLElement* AppendNamed(const SXMLName* name);
-    CXMLAttribute* LastAttribute() const;
     bool IsBelow(const CXMLNode* node) const;
 
     void HoldNode(CXMLNode* first)
@@ -120,8 +126,8 @@ private:
     static constexpr std::uintptr_t kMayHoldText = 2; // beside nodes only
 
     const SXMLName* mName;
-    std::uintptr_t mContent = 0; // the first child or the lone text
-    CXMLAttribute* mFirstAttribute = nullptr;
+    std::uintptr_t mContent = 0;        // the first child or the lone text
+    mutable CXMLAttributes mAttributes; // become objects when somebody looks
 };
 
 } // namespace OrvaneXML

@@ -4,41 +4,44 @@
 
 namespace OrvaneXML {
 
-CXMLAttribute* CXMLElement::LastAttribute() const
+namespace {
+
+void refuseRoot(const CXMLElement& element)
 {
-    CXMLAttribute* attribute = mFirstAttribute;
-    while (attribute && attribute->mNext)
-        attribute = attribute->mNext;
-    return attribute;
+    if (element.IsRoot())
+        throw std::runtime_error("The root of a tree has no attributes");
 }
 
-CXMLAttribute* CXMLElement::AppendAttribute(CXMLAttribute* last, const SXMLName* name,
-                                            std::string_view value)
-{
-    CXMLStore& store = Store();
-    auto* attribute = store.New<CXMLAttribute>(name, store.NewText(value));
-    store.nbBad += name->isBad;
-    (last ? last->mNext : mFirstAttribute) = attribute;
-    return attribute;
-}
+} // namespace
 
 XIXMLAttribute* CXMLElement::AddAttribute(XCXMLKey key, const char* value)
 {
-    if (IsRoot())
-        throw std::runtime_error("The root of a tree has no attributes");
+    refuseRoot(*this);
     if (XIXMLAttribute* present = FindAttribute(key)) {
         present->SetValue(value);
         return present;
     }
-    return AppendAttribute(LastAttribute(), Store().names.Resolve(key), textOrEmpty(value));
+    CXMLStore& store = Store();
+    return mAttributes.AppendObject(store, store.names.Resolve(key), textOrEmpty(value));
+}
+
+void CXMLElement::SetAttribute(const SXMLName* name, std::string_view value)
+{
+    refuseRoot(*this);
+    if (!mAttributes.Replace(Store(), name, value))
+        mAttributes.Append(Store(), name, value);
 }
 
 XIXMLAttribute* CXMLElement::FindAttribute(XCXMLKey key) const
 {
-    const SXMLName* name = Store().names.Find(key);
-    CXMLAttribute* attribute = name ? mFirstAttribute : nullptr;
-    while (attribute && attribute->mName != name)
-        attribute = attribute->mNext;
+    CXMLStore& store = Store();
+    const SXMLName* name = store.names.Find(key);
+    // A name that is not there is no reason to make objects.
+    if (!name || !mAttributes.ValueOf(name))
+        return nullptr;
+    CXMLAttribute* attribute = mAttributes.First(store);
+    while (attribute->Name() != name)
+        attribute = attribute->Next();
     return attribute;
 }
 
@@ -46,17 +49,7 @@ bool CXMLElement::RemoveAttribute(XCXMLKey key)
 {
     CXMLStore& store = Store();
     const SXMLName* name = store.names.Find(key);
-    bool isRemoved = false;
-    for (CXMLAttribute** link = &mFirstAttribute; CXMLAttribute* attribute = *link;) {
-        if (attribute->mName != name) {
-            link = &attribute->mNext;
-            continue;
-        }
-        *link = attribute->mNext;
-        attribute->Release(store);
-        isRemoved = true;
-    }
-    return isRemoved;
+    return name && mAttributes.Remove(store, name);
 }
 
 } // namespace OrvaneXML

@@ -10,7 +10,7 @@ namespace OrvaneXML {
 class CXMLInstructionNode final : public CXMLNode, public XIXMLInstruction {
 public:
     CXMLInstructionNode(const SXMLName* target, const char* content)
-        : mTarget(target), mContent(content)
+        : CXMLNode(EKind::Instruction), mTarget(target), mContent(content)
     {
     }
 
@@ -20,7 +20,6 @@ public:
     const char* GetText() const override { return mContent; }
     void SetText(const char* text) override;
     XIXMLInstruction* AsInstruction() override { return this; }
-    EKind Kind() const override { return EKind::Instruction; }
     CXMLNode* Copy(CXMLStore& store) const override;
     void Release(CXMLStore& store) override;
 

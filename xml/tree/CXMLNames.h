@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/tree/CXMLTag.h"
 #include "xml/tree/shortBytes.h"
 
 #include <zel/xml/XCXMLKey.h>
@@ -50,14 +51,25 @@ public:
         const SXMLName* guess = mLast ? mLast->follower : nullptr;
         return mLast = guess && guess->Is(name) ? guess : Lookup(name);
     }
-    /// The same for a tag in the code, which is asked for again and again by the same address.
-    const SXMLName* InternTag(const char* tag)
+    /// The same for a name in the code, which is asked for again and again.
+    const SXMLName* InternTag(CXMLTag tag)
     {
-        if (!mTags && ++mNbAsked < kManyAsked)
-            return Intern(tag);
-        SKnownTag& known = KnownTag(tag);
-        if (known.address != tag || std::strcmp(known.name->text(), tag) != 0)
-            known = {tag, Intern(tag)};
+        const char* const text = tag.text();
+        if (!tag.isLiteral() || AreFewAsked())
+            return Intern(text ? text : "");
+        SKnownTag& known = KnownTag(text);
+        if (known.address != text)
+            known = {text, Intern(text)};
+        return known.name;
+    }
+    /// The same for a text that most often is a literal too, of a client.
+    const SXMLName* InternText(const char* text)
+    {
+        if (AreFewAsked())
+            return Intern(text);
+        SKnownTag& known = KnownTag(text);
+        if (known.address != text || std::strcmp(known.name->text(), text) != 0)
+            known = {text, Intern(text)};
         return known.name;
     }
     /// The record of a key's name in this tree, made if there is none.
@@ -79,6 +91,7 @@ private:
     static constexpr int kNbTagBits = 10;
     static constexpr std::uint32_t kManyAsked = 1024; // before, a small tree stays small
 
+    bool AreFewAsked() { return !mTags && ++mNbAsked < kManyAsked; }
     SKnownTag& KnownTag(const char* tag)
     {
         if (!mTags)

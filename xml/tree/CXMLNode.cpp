@@ -50,23 +50,24 @@ int CXMLNode::Print(const char* format, ...)
 
 XIXMLElement* CXMLNode::GetParent() const
 {
-    return mParent;
+    return ParentElement();
 }
 
 CXMLStore& CXMLNode::Store() const
 {
-    return mParent->Store();
+    return ParentElement()->Store();
 }
 
 bool CXMLNode::IsFirst() const
 {
-    return mParent && mParent->FirstNode() == this;
+    const CXMLElement* parent = ParentElement();
+    return parent && parent->FirstNode() == this;
 }
 
 void CXMLNode::Destroy()
 {
     CXMLStore& store = Store();
-    mParent->Unlink(this);
+    ParentElement()->Unlink(this);
     ReleaseAll(store);
 }
 
@@ -81,7 +82,7 @@ void CXMLNode::ReleaseAll(CXMLStore& store)
             }
         }
         CXMLNode* next = node == this ? nullptr : node->mNext;
-        CXMLNode* parent = node == this ? nullptr : node->mParent;
+        CXMLNode* parent = node == this ? nullptr : node->ParentElement();
         node->Release(store);
         if (!next && !parent)
             return;
@@ -91,7 +92,7 @@ void CXMLNode::ReleaseAll(CXMLStore& store)
 
 XIXMLData* CXMLNode::CloneInto(XIXMLElement* parent) const
 {
-    if (!parent || (!mParent && Kind() == EKind::Element))
+    if (!parent || (!ParentElement() && Kind() == EKind::Element))
         throw std::runtime_error("Cannot clone into nothing, nor the root of a tree");
     auto* target = static_cast<CXMLElement*>(parent);
     target->CheckChild(Kind());
@@ -122,10 +123,10 @@ void CXMLNode::CopyChildrenTo(CXMLNode* copy, CXMLStore& store) const
             continue;
         }
         while (!node->mNext) {
-            node = node->mParent;
+            node = node->ParentElement();
             if (node == this)
                 return;
-            parent = parent->mParent;
+            parent = parent->ParentElement();
         }
         node = node->mNext;
     }

@@ -4,6 +4,8 @@
 
 #include <zel/xml/XIXMLElement.h>
 
+#include <cstdint>
+
 namespace OrvaneXML {
 
 /// What all nodes of a child list share: the links, and the operations built on the others.
@@ -24,7 +26,7 @@ public:
     XIXMLElement* AsElement() override { return nullptr; }
     void Destroy() override;
 
-    virtual EKind Kind() const = 0;
+    EKind Kind() const { return static_cast<EKind>(mParentAndKind & kKindBits); }
     /// The tree's shared part; the node is attached.
     virtual CXMLStore& Store() const;
     /// A detached copy without children in a tree, or null if a provider cannot be cloned.
@@ -32,7 +34,10 @@ public:
     /// Gives this node's memory back. It is detached and has no children.
     virtual void Release(CXMLStore& store) = 0;
 
-    CXMLElement* ParentElement() const { return mParent; }
+    CXMLElement* ParentElement() const
+    {
+        return reinterpret_cast<CXMLElement*>(mParentAndKind & ~kKindBits);
+    }
     CXMLNode* Next() const { return mNext; }
     bool IsFirst() const;
     /// Null for the first child.
@@ -42,14 +47,21 @@ public:
     void ReleaseAll(CXMLStore& store);
 
 protected:
+    explicit CXMLNode(EKind kind) : mParentAndKind(static_cast<std::uintptr_t>(kind)) {}
     ~CXMLNode() = default;
 
 private:
     friend class CXMLElement;
 
+    void SetParent(const CXMLElement* parent)
+    {
+        mParentAndKind = reinterpret_cast<std::uintptr_t>(parent) | (mParentAndKind & kKindBits);
+    }
     void CopyChildrenTo(CXMLNode* copy, CXMLStore& store) const;
 
-    CXMLElement* mParent = nullptr;
+    static constexpr std::uintptr_t kKindBits = 7; // which no pointer to a node has
+
+    std::uintptr_t mParentAndKind;
     CXMLNode* mNext = nullptr;
     CXMLNode* mPrevious = nullptr;
 };

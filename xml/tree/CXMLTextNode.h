@@ -7,11 +7,10 @@ namespace OrvaneXML {
 /// A text between tags.
 class CXMLTextNode final : public CXMLNode {
 public:
-    explicit CXMLTextNode(const char* text) : mText(text) {}
+    explicit CXMLTextNode(const char* text) : CXMLNode(EKind::Text), mText(text) {}
 
     const char* GetText() const override { return mText; }
     void SetText(const char* text) override { Store().ReplaceText(mText, textOrEmpty(text)); }
-    EKind Kind() const override { return EKind::Text; }
     CXMLNode* Copy(CXMLStore& store) const override
     {
         return store.New<CXMLTextNode>(store.NewText(mText));

@@ -52,10 +52,11 @@ void CXMLTreeBuilder::Start()
     CXMLNames& names = mCurrent->Store().names;
     mCurrent = mCurrent->AppendElement(mScanner.Name());
     mOpen.push_back({mWhite.size()});
-    CXMLAttribute* last = nullptr;
-    for (std::size_t i = 0; i < mScanner.NbAttributes(); ++i)
-        last = mCurrent->AppendAttribute(last, names.Intern(mScanner.AttributeName(i)),
-                                         mScanner.AttributeValue(i));
+    const std::size_t nb = mScanner.NbAttributes();
+    mCurrent->FillAttributes(nb, [&](auto use) {
+        for (std::size_t i = 0; i < nb; ++i)
+            use(names.Intern(mScanner.AttributeName(i)), mScanner.AttributeValue(i));
+    });
 }
 
 void CXMLTreeBuilder::End()

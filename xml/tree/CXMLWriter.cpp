@@ -140,11 +140,11 @@ void CXMLWriter::Node(CXMLNode& node)
 void CXMLWriter::Tag(const CXMLElement& element)
 {
     mOut.PutAll("<"sv, padded(element.Name()));
-    for (const CXMLAttribute* item = element.FirstAttribute(); item; item = item->Next()) {
-        mOut.PutAll(" "sv, padded(item->Name()), "=\""sv);
-        Escaped(item->Value(), true);
+    element.Attributes().ForEach([this](const SXMLName* name, const char* value) {
+        mOut.PutAll(" "sv, padded(name), "=\""sv);
+        Escaped(value, true);
         mOut.Put('"');
-    }
+    });
 }
 
 void CXMLWriter::EndTag(const CXMLElement& element)
