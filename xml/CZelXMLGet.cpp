@@ -4,6 +4,7 @@
 #include "xml/hexWord.h"
 #include "xml/tree/CXMLElement.h"
 #include "xml/tree/CXMLText.h"
+#include "xml/tree/commonTexts.h"
 
 #include <cstdarg>
 #include <cstring>
@@ -30,6 +31,8 @@ CZelUUID toId(const char* text)
 {
     constexpr std::size_t kNbDigits = 32;
     CZelUUID id;
+    if (text == OrvaneXML::kNoIdText)
+        return id;
     std::uint64_t bad = ::strnlen(text, kNbDigits) < kNbDigits;
     for (std::size_t i = 0; i < 4 && bad == 0; ++i)
         bad = decodeHexWord(text + i * 8, id.bytes + i * 4);

@@ -291,7 +291,8 @@ void CXMLElement::SetText(const char* text)
     const char* lone = LoneText();
     if (text && *text && (lone || IsEmpty()) && !IsRoot()) {
         SetLoneText(text); // first, since it may be a part of the old text
-        Store().FreeText(lone ? lone : "");
+        if (lone)
+            Store().FreeText(lone);
     } else if (CXMLNode* node = FirstOf(EKind::Text)) {
         node->SetText(text);
     } else {

@@ -2,6 +2,7 @@
 
 #include "xml/tree/CXMLNames.h"
 #include "xml/tree/CXMLNodePool.h"
+#include "xml/tree/commonTexts.h"
 #include "xml/tree/shortBytes.h"
 
 #include <cstddef>
@@ -40,11 +41,12 @@ struct CXMLStore {
         return new (pool.Allocate(sizeof(T))) T(std::forward<TArguments>(arguments)...);
     }
 
-    /// Texts are NUL-terminated. The empty one takes no memory; all others are aligned to 2.
+    /// Texts are NUL-terminated and aligned to 2. Those that every scene has a thousand times take
+    /// no memory.
     const char* NewText(std::string_view text)
     {
-        if (text.empty())
-            return "";
+        if (const char* common = CommonText(text))
+            return common;
         char* copy = pool.AllocateText(text.size() + 1);
         copyBytes(copy, text.data(), text.size());
         copy[text.size()] = 0;
@@ -52,7 +54,7 @@ struct CXMLStore {
     }
     void FreeText(const char* text)
     {
-        if (*text)
+        if (!IsCommonText(text))
             pool.FreeText(const_cast<char*>(text), std::strlen(text) + 1);
     }
     void ReplaceText(const char*& text, std::string_view with)

@@ -1,6 +1,7 @@
 #include "xml/tree/CXMLText.h"
 
 #include "xml/tree/CXMLTextFormat.h"
+#include "xml/tree/commonTexts.h"
 
 #include <algorithm>
 #include <charconv>
@@ -284,6 +285,10 @@ int scanText(const char* text, const char* format, std::va_list arguments)
 
 bool scanReal(const char* text, double& value)
 {
+    if (text == kZeroText || text == kOneText) {
+        value = text == kOneText ? 1.0 : 0.0;
+        return true;
+    }
     return takePlainDecimal(text, value) || scanTextf(text, "%lf", &value) == 1;
 }
 
