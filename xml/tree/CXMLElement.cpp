@@ -185,7 +185,7 @@ void CXMLElement::IndexChildren() const
 
 // ---- adding
 
-CXMLElement* CXMLElement::AppendNamed(const SXMLName* name)
+CXMLElement* CXMLElement::AppendElement(const SXMLName* name)
 {
     auto* element = Store().New<CXMLElement>(name);
     Store().nbBad += name->isBadElement();
@@ -195,7 +195,7 @@ CXMLElement* CXMLElement::AppendNamed(const SXMLName* name)
 
 XIXMLElement* CXMLElement::AddElement(XCXMLKey key)
 {
-    return AppendNamed(Store().names.Resolve(key));
+    return AppendElement(Store().names.Resolve(key));
 }
 
 CXMLNode* CXMLElement::InsertText(std::string_view text, CXMLNode* before)

@@ -87,9 +87,10 @@ public:
     /// Detaches the child list as a whole, for release.
     CXMLNode* TakeChildren();
 
+    CXMLElement* AppendElement(const SXMLName* name);
     CXMLElement* AppendElement(std::string_view name)
     {
-        return AppendNamed(Store().names.Intern(name));
+        return AppendElement(Store().names.InternElement(name));
     }
     /// All attributes of a new element; see CXMLAttributes::Fill.
     template <class TForEach>
@@ -109,7 +110,6 @@ public:
 private:
     /// Destroys the provider when this throws.
     void AppendOwnCData(XIXMLData::IXMLCData* provider);
-    CXMLElement* AppendNamed(const SXMLName* name);
     bool IsBelow(const CXMLNode* node) const;
 
     void HoldNode(CXMLNode* first)

@@ -98,8 +98,6 @@ const SXMLName* CXMLNames::Lookup(std::string_view name)
         mTable[slot] = Add(name, hash);
         ++mNbNames;
     }
-    if (mLast)
-        mLast->follower = mTable[slot];
     return mTable[slot];
 }
 

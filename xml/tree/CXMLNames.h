@@ -25,8 +25,10 @@ struct SXMLName {
     std::uint32_t hash;
     std::uint32_t length : 31;
     std::uint32_t isBad : 1; ///< no name that XML can hold
-    /// The name that was asked for behind this one the last time. Documents repeat themselves.
+    // Documents repeat themselves. What was asked for behind this name the last time: an attribute
+    // or whatever else comes next, and, behind that of an element, the next one of an element.
     mutable const SXMLName* follower = nullptr;
+    mutable const SXMLName* nextElement = nullptr;
     /// The first child of this name in the element whose children were indexed at that time.
     mutable CXMLElement* child = nullptr;
     mutable std::uint64_t indexTime = 0;
@@ -49,8 +51,31 @@ public:
     const SXMLName* Intern(std::string_view name)
     {
         const SXMLName* guess = mLast ? mLast->follower : nullptr;
-        return mLast = guess && guess->Is(name) ? guess : Lookup(name);
+        if (guess && guess->Is(name))
+            return mLast = guess;
+        const SXMLName* found = Lookup(name);
+        if (mLast)
+            mLast->follower = found;
+        return mLast = found;
     }
+    /// The same for the names of elements as they come in a file.
+    const SXMLName* InternElement(std::string_view name)
+    {
+        if (const SXMLName* guess = GuessElement(); guess && guess->Is(name))
+            return TakeElement(guess);
+        const SXMLName* found = Lookup(name);
+        if (mLastElement)
+            mLastElement->nextElement = found;
+        return mLast = mLastElement = found;
+    }
+    /// The name of the element that probably comes next, or null. Who finds it right takes it
+    /// instead of asking for it by its text.
+    const SXMLName* GuessElement() const
+    {
+        return mLastElement ? mLastElement->nextElement : nullptr;
+    }
+    const SXMLName* TakeElement(const SXMLName* name) { return mLast = mLastElement = name; }
+    const SXMLName* Take(const SXMLName* name) { return mLast = name; }
     /// The same for a name in the code, which is asked for again and again.
     const SXMLName* InternTag(CXMLTag tag)
     {
@@ -109,6 +134,7 @@ private:
     std::vector<const SXMLName*> mTable; // open addressing, a power of two
     std::size_t mNbNames = 0;
     const SXMLName* mLast = nullptr;
+    const SXMLName* mLastElement = nullptr;
     std::unique_ptr<std::array<SKnownTag, 1 << kNbTagBits>> mTags;
     std::uint32_t mNbAsked = 0;
 };

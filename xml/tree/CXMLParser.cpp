@@ -44,6 +44,13 @@ bool CXMLParser::Run(XIXMLReadStream& stream, bool withCData)
         case EToken::StartTag:
             tokens.push_back(Start(scanner));
             break;
+        case EToken::Leaf: {
+            void* const token = Start(scanner);
+            if (!scanner.Text().empty())
+                Text(scanner.Text().data());
+            EndElement(token);
+            break;
+        }
         case EToken::Text:
             if (!scanner.IsWhite())
                 Text(scanner.Text().data());

@@ -29,6 +29,17 @@ constexpr std::array<bool, 256> makeNameEnds()
 
 constexpr auto kNameEnds = makeNameEnds();
 
+/// Those that may stand behind a name.
+constexpr std::array<bool, 256> makePlainNameEnds()
+{
+    std::array<bool, 256> ends = kNameEnds;
+    for (unsigned c = 0; c < ' '; ++c)
+        ends[c] = isWhite(static_cast<char>(c));
+    return ends;
+}
+
+constexpr auto kPlainNameEnds = makePlainNameEnds();
+
 bool endsName(char c)
 {
     return kNameEnds[static_cast<unsigned char>(c)];
@@ -53,10 +64,6 @@ CXMLScanner::EToken CXMLScanner::Next()
 {
     if (mIsInSection)
         SkipSection();
-    if (mIsEmptyElement) {
-        mIsEmptyElement = false;
-        return CloseElement();
-    }
     if (mIsCovered) {
         mIsCovered = false;
         mBuffer[mPosition] = '<';
@@ -75,21 +82,24 @@ CXMLScanner::EToken CXMLScanner::Next()
             SkipWhite();
             if (mPosition < mEnd && Peek() != '<')
                 Fail("text outside the root element");
-        } else if (mIsBehindTag && IsBetweenTags(At(0))) {
-            mPosition = PlaceOf(pastWhite(At(0)));
-        } else {
+        } else if (!PassWhite()) {
             return TextToken();
         }
     }
 }
 
-/// Whether here is white space that means nothing, since the element has child elements.
-bool CXMLScanner::IsBetweenTags(const char* p) const
+/// Passes white space that means nothing, since the element has child elements.
+bool CXMLScanner::PassWhite()
 {
-    p = pastWhite(p);
+    if (!mIsBehindTag)
+        return false;
+    const char* p = pastWhite(At(0));
     if (*p != '<' || !p[1] || p[1] == '!' || p[1] == '?')
         return false;
-    return mIsBehindChild || p[1] != '/';
+    if (!mIsBehindChild && p[1] == '/')
+        return false;
+    mPosition = PlaceOf(p);
+    return true;
 }
 
 CXMLScanner::EToken CXMLScanner::AtEnd()
@@ -170,7 +180,7 @@ CXMLScanner::EToken CXMLScanner::Instruction()
     char* nameEnd = std::find_if(all.begin, all.end, isNameEnd);
     if (nameEnd == all.begin || (nameEnd != all.end && !isWhite(*nameEnd)))
         Fail("bad instruction target", mTokenBegin);
-    mName = {all.begin, nameEnd};
+    mName = {{all.begin, nameEnd}};
     mText = {std::find_if_not(nameEnd, all.end, isWhite), all.end};
     Terminate(mName);
     Terminate(mText);
@@ -196,15 +206,22 @@ char* CXMLScanner::Cut(char* p)
     return nullptr;
 }
 
-char* CXMLScanner::ScanName(char* p, SPiece& name)
+char* CXMLScanner::ScanName(char* p, SName& name, const SXMLName* guess)
 {
     name.begin = p;
+    name.known = nullptr;
+    if (guess && !guess->isBad && mEnd - PlaceOf(p) > guess->length &&
+        isSame(p, guess->text(), guess->length) &&
+        kPlainNameEnds[static_cast<unsigned char>(p[guess->length])]) {
+        name.known = guess;
+        return name.end = p + guess->length;
+    }
     while (!endsName(*p))
         ++p;
     name.end = p;
     if (!*p)
         return Cut(p);
-    if (p == name.begin || (static_cast<unsigned char>(*p) < ' ' && !isWhite(*p)))
+    if (p == name.begin || !kPlainNameEnds[static_cast<unsigned char>(*p)])
         Fail("bad name", PlaceOf(p));
     return p;
 }
@@ -212,29 +229,49 @@ char* CXMLScanner::ScanName(char* p, SPiece& name)
 char* CXMLScanner::ScanStartTag()
 {
     mAttributes.clear();
-    mIsEmptyElement = false;
-    char* p = ScanName(At(1), mName);
+    mIsLeaf = false;
+    char* p = ScanName(At(1), mName, mNames ? mNames->GuessElement() : nullptr);
+    const SXMLName* last = mName.known;
     while (p) {
         p = pastWhite(p);
         if (*p == '>')
-            return p + 1;
+            return PastLeaf(p + 1);
         if (*p == '/') {
             if (!p[1])
                 return Cut(p + 1);
             if (p[1] != '>')
                 Fail("\">\" expected", PlaceOf(p + 1));
-            mIsEmptyElement = true;
+            mIsLeaf = true;
+            mText = {p, p};
             return p + 2;
         }
-        p = *p ? ScanAttribute(p) : Cut(p);
+        if (!*p)
+            return Cut(p);
+        p = ScanAttribute(p, last ? last->follower : nullptr);
+        last = mAttributes.back().name.known;
     }
     return nullptr;
 }
 
-char* CXMLScanner::ScanAttribute(char* p)
+/// Behind the end tag if only a plain text stands in front of that, and it is here; else `p`.
+char* CXMLScanner::PastLeaf(char* p)
+{
+    if (isWhite(*p))
+        return p;
+    char* const end = findLane(p, textEnds);
+    const std::size_t size = mName.view().size();
+    if (end[0] != '<' || end[1] != '/' || mEnd - PlaceOf(end) < size + 3 || end[2 + size] != '>' ||
+        !isSame(end + 2, mName.begin, size))
+        return p;
+    mIsLeaf = true;
+    mText = {p, end};
+    return end + size + 3;
+}
+
+char* CXMLScanner::ScanAttribute(char* p, const SXMLName* guess)
 {
     SAttribute& attribute = mAttributes.emplace_back();
-    p = ScanName(p, attribute.name);
+    p = ScanName(p, attribute.name, guess);
     if (!p)
         return nullptr;
     p = pastWhite(p);
@@ -269,7 +306,7 @@ char* CXMLScanner::ScanValue(char* p, char quote, bool& isPlain)
 CXMLScanner::EToken CXMLScanner::StartTag()
 {
     Whole<&CXMLScanner::ScanStartTag>();
-    OpenElement();
+    CheckElement();
     for (SAttribute& attribute : mAttributes) {
         if (!attribute.isPlain)
             Decode(attribute.value, true);
@@ -277,28 +314,35 @@ CXMLScanner::EToken CXMLScanner::StartTag()
         Terminate(attribute.value);
     }
     Terminate(mName);
-    return EToken::StartTag;
+    if (!mIsLeaf) {
+        OpenElement();
+        return EToken::StartTag;
+    }
+    Terminate(mText);
+    BehindChild();
+    return EToken::Leaf;
 }
 
-void CXMLScanner::OpenElement()
+void CXMLScanner::CheckElement()
 {
     if (mOpenBegins.empty() && mIsRootSeen)
         Fail("more than one root element", mTokenBegin);
     if (mOpenBegins.size() == kMaxDepth)
         Fail("elements nested too deeply", mTokenBegin);
     mIsRootSeen = true;
+}
+
+void CXMLScanner::OpenElement()
+{
     mIsBehindTag = true;
     mIsBehindChild = false;
     mOpenBegins.push_back(mOpenNames.size());
     mOpenNames += Name();
 }
 
-CXMLScanner::EToken CXMLScanner::CloseElement()
+void CXMLScanner::BehindChild()
 {
-    mOpenNames.resize(mOpenBegins.back());
-    mOpenBegins.pop_back();
     mIsBehindTag = mIsBehindChild = true;
-    return EToken::EndTag;
 }
 
 std::string_view CXMLScanner::OpenName() const
@@ -321,7 +365,7 @@ char* CXMLScanner::ScanEndTag()
 {
     char* p = PastOpenName(At(2));
     if (!p) {
-        p = ScanName(At(2), mName);
+        p = ScanName(At(2), mName, nullptr);
         if (!p)
             return nullptr;
         if (mOpenBegins.empty() || Name() != OpenName())
@@ -338,7 +382,10 @@ char* CXMLScanner::ScanEndTag()
 CXMLScanner::EToken CXMLScanner::EndTag()
 {
     Whole<&CXMLScanner::ScanEndTag>();
-    return CloseElement();
+    mOpenNames.resize(mOpenBegins.back());
+    mOpenBegins.pop_back();
+    BehindChild();
+    return EToken::EndTag;
 }
 
 char* CXMLScanner::ScanText()

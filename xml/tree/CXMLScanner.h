@@ -1,5 +1,6 @@
 #pragma once
 
+#include "xml/tree/CXMLNames.h"
 #include "xml/tree/CXMLWindow.h"
 
 #include <cstddef>
@@ -17,20 +18,32 @@ namespace OrvaneXML {
 /// CDATA section are handed out as they come and never collected here.
 class CXMLScanner : private CXMLWindow {
 public:
-    enum class EToken { End, StartTag, EndTag, Text, Comment, Instruction, CData };
+    /// A leaf is an element from its start to its end, with a text at most: most elements are, and
+    /// one token for all of it is worth having. Some leaves come in pieces all the same.
+    enum class EToken { End, StartTag, EndTag, Leaf, Text, Comment, Instruction, CData };
 
-    explicit CXMLScanner(XIXMLReadStream& stream) : CXMLWindow(stream) {}
+    /// With the names of a tree the scanner knows most names of elements and attributes without
+    /// scanning them.
+    explicit CXMLScanner(XIXMLReadStream& stream, const CXMLNames* names = nullptr)
+        : CXMLWindow(stream), mNames(names)
+    {
+    }
 
     EToken Next();
 
-    /// The name of a start tag or the target of an instruction. All texts here are NUL-terminated.
+    /// The name of a start tag or leaf, or the target of an instruction. All texts here are
+    /// NUL-terminated.
     std::string_view Name() const { return mName.view(); }
-    /// A text, decoded, or what stands in a comment or instruction, as it is.
+    /// The same of a start tag or leaf among the names of the tree, or null if it was not guessed.
+    const SXMLName* KnownName() const { return mName.known; }
+    /// A text, decoded, that of a leaf, which may be empty but is not white, or what stands in a
+    /// comment or instruction, as it is.
     std::string_view Text() const { return mText.view(); }
     /// Whether a text has nothing but white space, none of it written as a reference.
     bool IsWhite() const { return mIsWhite; }
     std::size_t NbAttributes() const { return mAttributes.size(); }
     std::string_view AttributeName(std::size_t i) const { return mAttributes[i].name.view(); }
+    const SXMLName* KnownAttribute(std::size_t i) const { return mAttributes[i].name.known; }
     std::string_view AttributeValue(std::size_t i) const { return mAttributes[i].value.view(); }
 
     /// Delivers bytes of the section behind a CData token; 0 is its end. What is left unread is
@@ -45,8 +58,12 @@ private:
 
         std::string_view view() const { return {begin, static_cast<std::size_t>(end - begin)}; }
     };
+    struct SName : SPiece {
+        const SXMLName* known = nullptr;
+    };
     struct SAttribute {
-        SPiece name, value;
+        SName name;
+        SPiece value;
         bool isPlain;
     };
 
@@ -54,7 +71,6 @@ private:
     EToken AtEnd();
     EToken StartTag();
     EToken EndTag();
-    EToken CloseElement();
     EToken TextToken();
     EToken Comment();
     EToken Instruction();
@@ -67,22 +83,27 @@ private:
     template <char* (CXMLScanner::*Scan)()>
     void Whole();
     char* ScanStartTag();
-    char* ScanAttribute(char* p);
+    char* PastLeaf(char* p);
+    char* ScanAttribute(char* p, const SXMLName* guess);
     char* ScanValue(char* p, char quote, bool& isPlain);
     char* ScanEndTag();
     std::string_view OpenName() const;
     char* PastOpenName(char* p) const;
     char* ScanText();
-    char* ScanName(char* p, SPiece& name);
+    char* ScanName(char* p, SName& name, const SXMLName* guess);
     char* Cut(char* p);
 
-    bool IsBetweenTags(const char* p) const;
+    bool PassWhite();
+    void CheckElement();
     void OpenElement();
+    void BehindChild();
     void Decode(SPiece& piece, bool isValue);
     static void Terminate(SPiece piece) { *piece.end = 0; }
     std::size_t SectionBytes(std::size_t most);
     void SkipSection();
-    SPiece mName;
+
+    const CXMLNames* mNames;
+    SName mName;
     SPiece mText;
     std::vector<SAttribute> mAttributes;
     bool mIsWhite = false;
@@ -91,7 +112,7 @@ private:
     bool mIsBehindTag = false;   // nothing followed the last tag so far
     bool mIsBehindChild = false; // and that was an end tag
     bool mIsRootSeen = false;
-    bool mIsEmptyElement = false; // its end is the next token
+    bool mIsLeaf = false; // the start tag and all up to the end tag
     bool mIsInSection = false;
     bool mIsCovered = false; // the "<" at mPosition, by the NUL of the text in front of it
 

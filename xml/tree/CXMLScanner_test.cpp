@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace OrvaneXML {
 
 using namespace ZelTest;
@@ -12,6 +14,15 @@ using namespace ZelTest;
 namespace {
 
 using EToken = CXMLScanner::EToken;
+
+std::string startOf(const CXMLScanner& scanner)
+{
+    std::string text = "<" + std::string(scanner.Name());
+    for (std::size_t i = 0; i < scanner.NbAttributes(); ++i)
+        text += " " + std::string(scanner.AttributeName(i)) + "=" +
+                std::string(scanner.AttributeValue(i));
+    return text + ">";
+}
 
 /// Everything that a scanner says about a document, as one line.
 std::string tokensOf(const std::string& text, std::size_t most = ~std::size_t{0})
@@ -24,11 +35,13 @@ std::string tokensOf(const std::string& text, std::size_t most = ~std::size_t{0}
         case EToken::End:
             return log;
         case EToken::StartTag:
-            log += "<" + std::string(scanner.Name());
-            for (std::size_t i = 0; i < scanner.NbAttributes(); ++i)
-                log += " " + std::string(scanner.AttributeName(i)) + "=" +
-                       std::string(scanner.AttributeValue(i));
-            log += ">";
+            log += startOf(scanner);
+            break;
+        case EToken::Leaf:
+            log += startOf(scanner);
+            if (!scanner.Text().empty())
+                log += "t(" + std::string(scanner.Text()) + ")";
+            log += "</>";
             break;
         case EToken::EndTag:
             log += "</>";
@@ -64,6 +77,15 @@ TEST(XmlScanner, Tokens)
         {" \r\n<a />\n", "<a></>"},
         {"\xEF\xBB\xBF<a/>", "<a></>"},
         {"<a></a >", "<a></>"},
+        {"<a></a>", "<a></>"},
+        {"<a>b</a >", "<a>t(b)</>"},
+        {"<a x='1'>b>c</a>", "<a x=1>t(b>c)</>"},
+        {"<a>b </a>", "<a>t(b )</>"},
+        {"<a> b</a>", "<a>t( b)</>"},
+        {"<a><b>c</b><b/><b></b>d<b>e</b></a>", "<a><b>t(c)</><b></><b></>t(d)<b>t(e)</></>"},
+        {"<a>b<![CDATA[c]]></a>", "<a>t(b)d(c)</>"},
+        {"<a>b<!--c--></a>", "<a>t(b)c(c)</>"},
+        {"<ab>c<a/></ab>", "<ab>t(c)<a></></>"},
         {"<3D.Paths 2d='1'/>", "<3D.Paths 2d=1></>"},
         {"<a x = 'say \"hi\"' y=\"it's\"/>", "<a x=say \"hi\" y=it's></>"},
         {"<a x='1'y='2'/>", "<a x=1 y=2></>"},
@@ -116,6 +138,9 @@ TEST(XmlScanner, SyntaxErrorsCarryTheirLine)
         {"</a>", "1: end tag does not match"},
         {"<a/></a>", "1: end tag does not match"},
         {"<a></a x='1'>", "1: \">\" expected"},
+        {"<a>b</a", "1: unexpected end"},
+        {"<a>b</ab>", "1: end tag does not match"},
+        {"<a>b</a><a>c</a>", "1: more than one root element"},
         {"<a/>\n<b/>", "2: more than one root element"},
         {"x<a/>", "1: text outside the root element"},
         {"<a/>\n\nx", "3: text outside the root element"},
@@ -171,6 +196,34 @@ TEST(XmlScanner, SyntaxErrorsCarryTheirLine)
                 << item.text << " by " << most;
 }
 
+TEST(XmlScanner, NamesAreGuessedFromThoseOfTheTree)
+{
+    // Each of these is a wrong guess for the other, by its beginning or its end.
+    const std::string text =
+        "<a><b x='1' y='2'/><b x='1' y='2'/><bb x='1' yy='2'/><b xx='1' y='2'/>"
+        "<b x='1'/><b y='2'/><b/><b y='2' x='1'/><bb><b/></bb><b>c</b></a>";
+    for (std::size_t most : {1u, 2u, 3u, 7u, 1'000'000u}) {
+        const CTreePtr tree = readTree(text, most);
+        std::string flat = written(*tree);
+        std::erase_if(flat, [](char c) { return c == '\n' || c == '\t'; });
+        std::replace(flat.begin(), flat.end(), '"', '\'');
+        EXPECT_EQ(flat, text) << most;
+    }
+}
+
+TEST(XmlScanner, ABadNameIsNeverGuessed)
+{
+    CXMLStore store;
+    store.names.InternElement("a");
+    for (const char* bad : {"", "b x", "b/", "\x01"}) {
+        store.names.InternElement(bad);
+        store.names.TakeElement(store.names.Intern("a"));
+        CXMLTextSource source("< x/>");
+        CXMLScanner scanner(source, &store.names);
+        EXPECT_EQ(messageOf([&] { scanner.Next(); }), "XML syntax error in line 1: bad name");
+    }
+}
+
 TEST(XmlScanner, TokensMayBeLongerThanTheWindow)
 {
     const std::string text(300'000, 'x');
@@ -206,8 +259,9 @@ TEST(XmlScanner, NestingHasALimit)
         return text;
     };
     EXPECT_EQ(messageOf([&] { tokensOf(nested(10'000)); }), "no exception");
-    EXPECT_EQ(messageOf([&] { tokensOf(nested(10'001)); }),
-              "XML syntax error in line 1: elements nested too deeply");
+    for (const char* leaf : {"<a>", "<a/>", "<a></a>", "<a>b</a>"})
+        EXPECT_EQ(messageOf([&] { tokensOf(nested(10'000).insert(30'000, leaf)); }),
+                  "XML syntax error in line 1: elements nested too deeply");
 }
 
 TEST(XmlScanner, AStreamThatDeliversTooMuchIsRefused)

@@ -24,6 +24,9 @@ void CXMLTreeBuilder::Run()
         case EToken::EndTag:
             End();
             break;
+        case EToken::Leaf:
+            Leaf();
+            break;
         case EToken::Text:
             AddText();
             break;
@@ -44,19 +47,38 @@ void CXMLTreeBuilder::Run()
     }
 }
 
-void CXMLTreeBuilder::Start()
+/// The element whose start was read, without a content.
+CXMLElement& CXMLTreeBuilder::AddElement()
 {
     if (!mOpen.empty() && !mOpen.back().hasElements)
         DropWhite();
     FlushText(nullptr);
     CXMLNames& names = mCurrent->Store().names;
-    mCurrent = mCurrent->AppendElement(mScanner.Name());
-    mOpen.push_back({mWhite.size()});
+    const SXMLName* known = mScanner.KnownName();
+    CXMLElement& element = *mCurrent->AppendElement(known ? names.TakeElement(known)
+                                                          : names.InternElement(mScanner.Name()));
     const std::size_t nb = mScanner.NbAttributes();
-    mCurrent->FillAttributes(nb, [&](auto use) {
-        for (std::size_t i = 0; i < nb; ++i)
-            use(names.Intern(mScanner.AttributeName(i)), mScanner.AttributeValue(i));
+    element.FillAttributes(nb, [&](auto use) {
+        for (std::size_t i = 0; i < nb; ++i) {
+            const SXMLName* name = mScanner.KnownAttribute(i);
+            use(name ? names.Take(name) : names.Intern(mScanner.AttributeName(i)),
+                mScanner.AttributeValue(i));
+        }
     });
+    return element;
+}
+
+void CXMLTreeBuilder::Start()
+{
+    mCurrent = &AddElement();
+    mOpen.push_back({mWhite.size()});
+}
+
+void CXMLTreeBuilder::Leaf()
+{
+    CXMLElement& element = AddElement();
+    if (!mScanner.Text().empty())
+        element.SetLoneText(mScanner.Text());
 }
 
 void CXMLTreeBuilder::End()

@@ -17,7 +17,7 @@ class CXMLSectionStream;
 class CXMLTreeBuilder {
 public:
     CXMLTreeBuilder(CXMLElement& root, IXMLCDataReader* reader, XIXMLReadStream& stream)
-        : mScanner(stream), mReader(reader), mCurrent(&root)
+        : mScanner(stream, &root.Store().names), mReader(reader), mCurrent(&root)
     {
     }
 
@@ -30,7 +30,9 @@ private:
         CXMLCDataNode* section = nullptr; // the first one
     };
 
+    CXMLElement& AddElement();
     void Start();
+    void Leaf();
     void End();
     void AddText();
     void TakeTextBack();
