@@ -100,10 +100,15 @@ TZelComPtr<CTCENode> CProperty::readNode(CZelXMLIO& io, const CZelXMLGet& in)
         return getNode(io, in, &root());
     // Mapping nodes get new identities here and still find their parents by those in the file. The
     // table is for this property alone: another one may have the same.
-    CZelXMLIO::CIdentities identities;
-    CZelXMLIO own(io);
-    own.setIdentities(&identities);
-    return getNode(own, in, &root());
+    struct COwnIdentities {
+        explicit COwnIdentities(CZelXMLIO& frame) : io(frame) { io.setIdentities(&own); }
+        ~COwnIdentities() { io.setIdentities(before); }
+
+        CZelXMLIO& io;
+        CZelXMLIO::CIdentities own;
+        CZelXMLIO::CIdentities* before = io.identities();
+    } const identities(io);
+    return getNode(io, in, &root());
 }
 
 } // namespace OvZel

@@ -17,18 +17,23 @@ XIXMLElement* CClassData::elementOf(XCXMLTree& tree) const
     return findOrAdd(*tree.GetRoot(), mTag);
 }
 
-std::unique_ptr<XCXMLTree> CClassData::unpacked() const
+void CClassData::unpackInto(XCXMLTree& tree) const
+{
+    if (!mPacked.isEmpty())
+        mPacked.unpackInto(*tree.GetRoot());
+}
+
+CClassData::CTreePtr CClassData::unpacked() const
 {
     auto tree = std::make_unique<XCXMLTree>();
-    if (!mPacked.isEmpty())
-        mPacked.unpackInto(*tree->GetRoot());
+    unpackInto(*tree);
     return tree;
 }
 
 void CClassData::show() const
 {
     if (!mTree) {
-        mTree = unpacked();
+        mTree = mEditTree ? std::move(*mEditTree) : unpacked();
         mPacked = {};
     }
 }
@@ -63,6 +68,33 @@ void CClassData::edit(const CWork& work)
         throw;
     }
     putAway();
+}
+
+void CClassData::edit(const CWork& work, CTreePtr& workingTree)
+{
+    if (!workingTree)
+        workingTree = std::make_unique<XCXMLTree>();
+    OrvaneXML::XIXMLData* const root = workingTree->GetRoot()->GetNode();
+    if (mTree || workingTree->GetRoot()->GetFirstNode()) // another edit runs around this one
+        return edit(work);
+    unpackInto(*workingTree);
+    mEditTree = &workingTree;
+    const auto finish = [&] {
+        mEditTree = nullptr;
+        if (mTree)
+            return;
+        if (mPacked.pack(*elementOf(*workingTree)))
+            root->Destroy(); // what is in it; a root itself stays
+        else
+            mTree = std::move(workingTree);
+    };
+    try {
+        work(elementOf(*workingTree));
+    } catch (...) {
+        finish();
+        throw;
+    }
+    finish();
 }
 
 const char* CClassData::getText(const char* tag) const

@@ -27,6 +27,7 @@ class CClassData {
 public:
     using XIXMLElement = OrvaneXML::XIXMLElement;
     using CWork = std::function<void(XIXMLElement*)>;
+    using CTreePtr = std::unique_ptr<OrvaneXML::XCXMLTree>;
 
     /// The element is empty at first. The tag is a literal.
     explicit CClassData(const char* tag);
@@ -52,17 +53,21 @@ public:
     void read(const CWork& work) const;
     /// Calls `work` with the element, to be changed. What was changed before a failure stays.
     void edit(const CWork& work);
+    /// The same, in the tree that many share in turn; see CZelXMLIO::workingTree.
+    void edit(const CWork& work, CTreePtr& workingTree);
 
 private:
     XIXMLElement* elementOf(OrvaneXML::XCXMLTree& tree) const;
-    std::unique_ptr<OrvaneXML::XCXMLTree> unpacked() const;
+    void unpackInto(OrvaneXML::XCXMLTree& tree) const;
+    CTreePtr unpacked() const;
     void show() const;
     void putAway();
 
     const char* mTag;
     // One of the two holds the data, and nobody can see which; neither does for an empty element.
     mutable CPackedElement mPacked;
-    mutable std::unique_ptr<OrvaneXML::XCXMLTree> mTree;
+    mutable CTreePtr mTree;
+    CTreePtr* mEditTree = nullptr; // where it is edited, and becomes its own if somebody looks
     mutable bool mIsShown = false; // somebody has a pointer into the tree
 };
 

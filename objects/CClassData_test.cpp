@@ -168,3 +168,48 @@ TEST(ClassData, TextsOfChildren)
     data.setText("Url", "c");
     EXPECT_EQ(textOf(data), "<E><Instance.Data><Url>c</Url><Url>second</Url></Instance.Data></E>");
 }
+
+TEST(ClassData, EditsInATreeThatOthersUseToo)
+{
+    CClassData::CTreePtr workingTree;
+    CClassData first("Instance.Data"), second("Object.Data"), kept("Instance.Data");
+    const auto addA = [](XIXMLElement* inside) { addChild(inside, "A"); };
+    first.edit(addA, workingTree);
+    ASSERT_TRUE(workingTree);
+    EXPECT_EQ(workingTree->GetRoot()->GetFirstNode(), nullptr);
+    EXPECT_EQ(textOf(first), "<E><Instance.Data><A/></Instance.Data></E>");
+    // One edit inside another has a tree of its own.
+    second.edit(
+        [&](XIXMLElement* inside) {
+            first.edit(addA, workingTree);
+            addChild(inside, "B");
+        },
+        workingTree);
+    EXPECT_EQ(textOf(first), "<E><Instance.Data><A/><A/></Instance.Data></E>");
+    EXPECT_EQ(textOf(second), "<E><Object.Data><B/></Object.Data></E>");
+    // What is seen during an edit stays where it is.
+    XIXMLElement* seen = nullptr;
+    kept.edit(
+        [&](XIXMLElement* inside) {
+            seen = kept.element();
+            EXPECT_EQ(seen, inside);
+            addChild(inside, "C");
+        },
+        workingTree);
+    EXPECT_FALSE(workingTree);
+    EXPECT_EQ(kept.element(), seen);
+    EXPECT_EQ(textOf(kept), "<E><Instance.Data><C/></Instance.Data></E>");
+    // A failure keeps what was done before it.
+    EXPECT_THROW(first.edit(
+                     [&](XIXMLElement* inside) {
+                         addChild(inside, "D");
+                         throw std::runtime_error("stop");
+                     },
+                     workingTree),
+                 std::runtime_error);
+    EXPECT_EQ(textOf(first), "<E><Instance.Data><A/><A/><D/></Instance.Data></E>");
+    // A section that has its only provider here keeps its tree.
+    second.edit([](XIXMLElement* inside) { inside->SetCData(new CSingle); }, workingTree);
+    EXPECT_FALSE(workingTree);
+    EXPECT_NE(second.element()->GetFirstElement(), nullptr);
+}

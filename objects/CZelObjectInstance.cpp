@@ -44,7 +44,8 @@ void CZelObjectInstance::prepareForWrite()
 void CZelObjectInstance::saveDelegate(CZelXMLIO& io)
 {
     if (mDelegate)
-        mData.edit([&](XIXMLElement* data) { mDelegate->save(io, CZelXMLAdd(data)); });
+        mData.edit([&](XIXMLElement* data) { mDelegate->save(io, CZelXMLAdd(data)); },
+                   io.workingTree());
 }
 
 const IZelZelObjectInstance* CZelObjectInstance::asZelObjectInstance() const

@@ -59,7 +59,8 @@ void CZelZelObjectDefinition::prepareForWrite()
 void CZelZelObjectDefinition::saveDelegate(CZelXMLIO& io)
 {
     if (mDelegate)
-        mData.edit([&](XIXMLElement* data) { mDelegate->save(io, CZelXMLAdd(data)); });
+        mData.edit([&](XIXMLElement* data) { mDelegate->save(io, CZelXMLAdd(data)); },
+                   io.workingTree());
 }
 
 XIXMLElement* CZelZelObjectDefinition::getInstanceData()

@@ -7,6 +7,7 @@
 
 #include <cstdarg>
 #include <exception>
+#include <typeinfo>
 
 namespace OvZel {
 
@@ -37,6 +38,9 @@ CZelXMLAdd::CZelXMLAdd(XIXMLElement* element) : mElement(element)
 
 XIXMLElement* CZelXMLAdd::newChild(CXMLTag tag) const
 {
+    // An element of the library's own trees knows a literal by its address.
+    if (typeid(*mElement) == typeid(OrvaneXML::CXMLElement))
+        return own().AppendElement(own().NameOf(tag));
     return mElement->AddElement(mElement->MakeKey(tag.text()));
 }
 
@@ -118,8 +122,8 @@ XIXMLElement* CZelXMLAdd::AddFmtData(CXMLTag tag, const char* format, ...) const
     return addText(tag, buffer);
 }
 
-/// Every element is of the library's own trees. Through the interface an attribute would become an
-/// object that nobody wants.
+/// Attributes are added to elements of the library's own trees only. Through the interface one
+/// would become an object that nobody wants.
 OrvaneXML::CXMLElement& CZelXMLAdd::own() const
 {
     return static_cast<OrvaneXML::CXMLElement&>(*mElement);

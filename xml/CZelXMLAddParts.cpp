@@ -30,8 +30,7 @@ void CZelXMLAdd::fill(const TPart<TValue> (&parts)[kNb], TPrint print) const
     own().FillAttributes(kNb, [&](auto use) {
         for (const auto& [name, value] : parts) {
             char text[OrvaneXML::kLongestReal];
-            print(text, value);
-            use(own().NameOf(name), text);
+            use(own().NameOf(name), print(text, value));
         }
     });
 }
@@ -41,9 +40,7 @@ XIXMLElement* CZelXMLAdd::AddColor(CXMLTag tag, const CZelColor& color) const
     const CZelXMLAdd child(newChild(tag));
     const TPart<std::uint8_t> parts[] = {
         {"R", color.bytes[1]}, {"G", color.bytes[2]}, {"B", color.bytes[3]}};
-    child.fill(parts, [](char(&text)[OrvaneXML::kLongestReal], std::uint8_t value) {
-        OrvaneXML::printInteger(text, value);
-    });
+    child.fill(parts, OrvaneXML::printInteger);
     return child.element();
 }
 

@@ -1,6 +1,7 @@
 #include "xml/CZelXMLIO.h"
 
 #include "core/OvThrow.h"
+#include "xml/tree/XCXMLTree.h"
 
 namespace OvZel {
 
@@ -8,5 +9,7 @@ CZelXMLIO::CZelXMLIO(IZelMgrRef* mgrRef, bool getUUID) : mMgrRef(mgrRef), mGetUU
 {
     OvThrow::IfNULL(mgrRef);
 }
+
+CZelXMLIO::~CZelXMLIO() = default;
 
 } // namespace OvZel

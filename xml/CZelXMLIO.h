@@ -4,7 +4,14 @@
 #include <zel/CZelVersion.h>
 
 #include <map>
+#include <memory>
 #include <vector>
+
+namespace OrvaneXML {
+
+class XCXMLTree;
+
+}
 
 namespace OvZel {
 
@@ -17,6 +24,9 @@ public:
 
     /// Raises the null-pointer failure without a reference object.
     CZelXMLIO(IZelMgrRef* mgrRef, bool getUUID);
+    ~CZelXMLIO();
+    CZelXMLIO(const CZelXMLIO&) = delete;
+    CZelXMLIO& operator=(const CZelXMLIO&) = delete;
 
     /// Never null.
     IZelMgrRef* getMgrRef() const { return mMgrRef; }
@@ -31,6 +41,9 @@ public:
     void setFileVersion(const CZelVersion* version) { mFileVersion = version; }
     /// Scratch space of the running operation, empty at first.
     std::vector<CZelUUID>& workingList() { return mWorkingList; }
+    /// A tree for what is put together aside, so that it needs none of its own: null at first, and
+    /// whoever puts something in takes it out again, or keeps the tree.
+    std::unique_ptr<OrvaneXML::XCXMLTree>& workingTree() { return mWorkingTree; }
     /// Identifiers of the part of the file that is being read, and what they became in memory. Null
     /// when identifiers are taken as they stand. The table belongs to the caller.
     CIdentities* identities() const { return mIdentities; }
@@ -41,6 +54,7 @@ private:
     bool mGetUUID;
     const CZelVersion* mFileVersion = nullptr;
     std::vector<CZelUUID> mWorkingList;
+    std::unique_ptr<OrvaneXML::XCXMLTree> mWorkingTree;
     CIdentities* mIdentities = nullptr;
 };
 

@@ -55,7 +55,7 @@ void CXMLAttributes::Append(CXMLStore& store, const SXMLName* name, std::string_
     // element. It is not worth more, since those who add one after the other are few.
     const std::size_t nb = Count();
     const char* text = store.NewText(value);
-    auto* pairs = static_cast<SPair*>(store.pool.Allocate((nb + 1) * sizeof(SPair)));
+    auto* pairs = NewPairs(store, nb + 1);
     if (nb > 0) {
         std::memcpy(pairs, Pairs(), nb * sizeof(SPair));
         store.pool.Free(Pairs(), nb * sizeof(SPair));
@@ -95,11 +95,35 @@ bool CXMLAttributes::Replace(CXMLStore& store, const SXMLName* name, std::string
     return object;
 }
 
+void CXMLAttributes::RemovePairs(CXMLStore& store, const SXMLName* name)
+{
+    const CXMLAttributes before = *this;
+    std::size_t nb = 0;
+    before.ForEach([&](const SXMLName* each, const char*) { nb += each != name; });
+    SPair* pairs = nb > 0 ? NewPairs(store, nb) : nullptr;
+    mPlace = nb > 0 ? Marked(pairs) : 0;
+    before.ForEach([&](const SXMLName* each, const char* value) {
+        if (each != name) {
+            *pairs++ = {reinterpret_cast<std::uintptr_t>(each), value};
+        } else {
+            store.nbBad -= each->isBad;
+            store.FreeText(value);
+        }
+    });
+    if (nb > 0)
+        pairs[-1].nameAndMark |= kMark;
+    store.pool.Free(before.Pairs(), before.Count() * sizeof(SPair));
+}
+
 bool CXMLAttributes::Remove(CXMLStore& store, const SXMLName* name)
 {
     if (!ValueOf(name))
         return false;
-    CXMLAttribute* first = First(store);
+    if (IsPacked()) {
+        RemovePairs(store, name);
+        return true;
+    }
+    CXMLAttribute* first = FirstObject();
     for (CXMLAttribute** link = &first; CXMLAttribute* object = *link;) {
         if (object->mName != name) {
             link = &object->mNext;

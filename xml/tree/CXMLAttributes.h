@@ -68,6 +68,11 @@ private:
     SPair* Pairs() const { return reinterpret_cast<SPair*>(mPlace & ~kMark); }
     CXMLAttribute* FirstObject() const { return reinterpret_cast<CXMLAttribute*>(mPlace); }
     void HoldObject(CXMLAttribute* first) { mPlace = reinterpret_cast<std::uintptr_t>(first); }
+    static SPair* NewPairs(CXMLStore& store, std::size_t nb)
+    {
+        return static_cast<SPair*>(store.pool.Allocate(nb * sizeof(SPair)));
+    }
+    void RemovePairs(CXMLStore& store, const SXMLName* name);
     SPair* FindPair(const SXMLName* name) const;
     CXMLAttribute* FindObject(const SXMLName* name) const;
     void Unpack(CXMLStore& store);
@@ -96,7 +101,7 @@ void CXMLAttributes::Fill(CXMLStore& store, std::size_t nb, TForEach forEach)
 {
     if (nb == 0)
         return;
-    auto* const pairs = static_cast<SPair*>(store.pool.Allocate(nb * sizeof(SPair)));
+    auto* const pairs = NewPairs(store, nb);
     SPair* next = pairs;
     forEach([&](const SXMLName* name, std::string_view value) {
         *next++ = {reinterpret_cast<std::uintptr_t>(name), store.NewText(value)};

@@ -3,6 +3,7 @@
 #include "xml/tree/CXMLNames.h"
 #include "xml/tree/CXMLNodePool.h"
 #include "xml/tree/commonTexts.h"
+#include "xml/tree/lanes.h"
 #include "xml/tree/shortBytes.h"
 
 #include <cstddef>
@@ -55,7 +56,15 @@ struct CXMLStore {
     void FreeText(const char* text)
     {
         if (!IsCommonText(text))
-            pool.FreeText(const_cast<char*>(text), std::strlen(text) + 1);
+            pool.FreeText(const_cast<char*>(text), LengthOf(text) + 1);
+    }
+    /// Of a text of a tree, from the beginning of which 16 bytes can be read.
+    static std::size_t LengthOf(const char* text)
+    {
+        for (std::size_t at = 0; at < 16; at += 8)
+            if (const std::uint64_t ends = lanesOf(lanesAt(text + at), 0))
+                return at + static_cast<std::size_t>(firstLane(ends));
+        return 16 + std::strlen(text + 16);
     }
     void ReplaceText(const char*& text, std::string_view with)
     {

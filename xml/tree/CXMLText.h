@@ -3,6 +3,7 @@
 #include <cstdarg>
 #include <cstddef>
 #include <string>
+#include <string_view>
 
 namespace OrvaneXML {
 
@@ -24,10 +25,10 @@ bool scanInteger(const char* text, int& value);
 int printText(char* buffer, std::size_t size, const char* format, std::va_list arguments);
 int printTextf(char* buffer, std::size_t size, const char* format, ...);
 
-/// What "%f" and "%d" print, with a NUL behind it.
+/// What "%f" and "%d" print, in the buffer with a NUL behind it.
 constexpr std::size_t kLongestReal = 332;
-void printReal(char (&buffer)[kLongestReal], double value);
-void printInteger(char (&buffer)[kLongestReal], int value);
+std::string_view printReal(char (&buffer)[kLongestReal], double value);
+std::string_view printInteger(char (&buffer)[kLongestReal], int value);
 
 /// A printed text of any length, which needs memory of its own only beyond the usual length.
 class CXMLPrinted {

@@ -183,22 +183,26 @@ int printText(char* buffer, std::size_t size, const char* format, std::va_list a
     return CPrint(buffer, size, arguments).run(format);
 }
 
-void printReal(char (&buffer)[kLongestReal], double value)
+std::string_view printReal(char (&buffer)[kLongestReal], double value)
 {
     std::uint64_t millionths = 0;
     if (!toMillionths(std::fabs(value), millionths)) {
-        printTextf(buffer, sizeof buffer, "%f", value);
-        return;
+        const int length = printTextf(buffer, sizeof buffer, "%f", value);
+        return {buffer, static_cast<std::size_t>(length)};
     }
     char* out = buffer;
     if (std::signbit(value))
         *out++ = '-';
-    *printMillionths(out, millionths) = 0;
+    char* const end = printMillionths(out, millionths);
+    *end = 0;
+    return {buffer, static_cast<std::size_t>(end - buffer)};
 }
 
-void printInteger(char (&buffer)[kLongestReal], int value)
+std::string_view printInteger(char (&buffer)[kLongestReal], int value)
 {
-    *std::to_chars(buffer, buffer + sizeof buffer - 1, value).ptr = 0;
+    char* const end = std::to_chars(buffer, buffer + sizeof buffer - 1, value).ptr;
+    *end = 0;
+    return {buffer, static_cast<std::size_t>(end - buffer)};
 }
 
 int printTextf(char* buffer, std::size_t size, const char* format, ...)
