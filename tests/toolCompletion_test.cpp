@@ -1,13 +1,12 @@
 // Without the tool there is nothing to test, and shells are those of POSIX.
 #if defined(ZEL_TOOL) && !defined(_WIN32)
 
+#include "tests/toolHelp.h"
 #include "tests/toolRun.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <regex>
 #include <set>
-#include <sstream>
 
 // What the shells complete, against the help, which the manual is checked against too.
 
@@ -16,20 +15,6 @@ namespace {
 using testing::Contains;
 
 using CWords = std::vector<std::string>;
-
-std::set<std::string> found(const std::string& text, const char* pattern)
-{
-    std::set<std::string> all;
-    const std::regex expression(pattern);
-    for (std::sregex_iterator i(text.begin(), text.end(), expression), end; i != end; ++i)
-        all.insert(i->str(1));
-    return all;
-}
-
-std::set<std::string> commandsIn(const std::string& help)
-{
-    return found(help.substr(help.find("Subcommands:")), "\n  ([a-z][a-z-]*) ");
-}
 
 /// A shell with what asks its completion about the words behind $1, the last of which is begun. $0
 /// is the completion, and the tool is in the search path.
@@ -107,7 +92,7 @@ TEST_P(ToolCompletion, OffersEveryOptionOfACommand)
         help.push_back("--help");
         words.push_back("--");
         const std::set<std::string> options =
-            found(runTool(help).output, "\n  (?:-[a-z0-9],)?(--[a-z-]+)");
+            optionsIn(runTool(help).output);
         EXPECT_THAT(options, Contains("--help"));
         EXPECT_EQ(offered(words), options) << testing::PrintToString(words);
     }

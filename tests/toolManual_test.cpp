@@ -1,12 +1,12 @@
 #ifdef ZEL_TOOL // without the tool there is nothing to test
 
+#include "tests/toolHelp.h"
 #include "tests/toolRun.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <regex>
 #include <set>
-#include <sstream>
 
 namespace {
 
@@ -29,20 +29,9 @@ std::string section(const std::string& command)
     return text.substr(begin, text.find("\n.S", begin + 1) - begin);
 }
 
-std::set<std::string> found(const std::string& text, const char* pattern)
-{
-    std::set<std::string> all;
-    const std::regex expression(pattern);
-    for (std::sregex_iterator i(text.begin(), text.end(), expression), end; i != end; ++i)
-        all.insert(i->str(1));
-    return all;
-}
-
-/// What stands behind the heading in the help, where each line begins with a command.
 std::set<std::string> commands()
 {
-    const std::string help = runTool({"--help"}).output;
-    return found(help.substr(help.find("Subcommands:")), "\n  ([a-z][a-z-]*) ");
+    return commandsIn(runTool({"--help"}).output);
 }
 
 TEST(ToolManual, HasEveryCommandAndOptionOfTheHelp)
@@ -50,7 +39,7 @@ TEST(ToolManual, HasEveryCommandAndOptionOfTheHelp)
     ASSERT_THAT(commands(), Contains("rewrite"));
     for (const std::string& command : commands()) {
         const std::string help = runTool({command, "--help"}).output;
-        const std::set<std::string> options = found(help, "\n  (?:-[a-z0-9],)?(--[a-z-]+)");
+        const std::set<std::string> options = optionsIn(help);
         EXPECT_THAT(options, Contains("--help")) << command;
         EXPECT_EQ(found(section(command), "(--[a-z-]+)"), options) << command;
     }
