@@ -2,29 +2,32 @@
 
 #include "xml/CZelXMLAdd.h"
 #include "xml/CZelXMLGet.h"
+#include "xml/tree/CXMLElement.h"
 
-#include <string>
-#include <utility>
-#include <vector>
+#include <cstddef>
 
 namespace OvZel {
+
+using OrvaneXML::SXMLName;
 
 namespace {
 
 /// Puts the identifier in front of the attributes that a file may have beside it.
 void addIdFirst(const CZelXMLAdd& out, const CZelUUID& id)
 {
-    OrvaneXML::XIXMLElement* element = out.element();
-    std::vector<std::pair<std::string, std::string>> others;
-    while (OrvaneXML::XIXMLAttribute* attribute = element->GetFirstAttribute()) {
-        const OrvaneXML::XCXMLKey key = attribute->GetKey();
-        if (key != "UUID")
-            others.emplace_back(static_cast<const char*>(key), attribute->GetValue());
-        element->RemoveAttribute(key);
-    }
     out.AddUUID("UUID", id);
-    for (const auto& [name, value] : others)
-        out.AddAttribute(name, value.c_str());
+    auto& element = static_cast<OrvaneXML::CXMLElement&>(*out.element());
+    const SXMLName* const name = element.NameOf("UUID");
+    const char* const text = element.Attributes().ValueOf(name);
+    std::size_t nb = 1;
+    element.Attributes().ForEach([&](const SXMLName* each, const char*) { nb += each != name; });
+    element.ReplaceAttributes(nb, [&](auto use) {
+        use(name, text);
+        element.Attributes().ForEach([&](const SXMLName* each, const char* value) {
+            if (each != name)
+                use(each, value);
+        });
+    });
 }
 
 } // namespace

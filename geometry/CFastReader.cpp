@@ -51,9 +51,16 @@ int lower(int c)
 // the second one takes the characters from the reader.
 
 struct CWindow {
-    const char* position;
+    explicit CWindow(const OrvaneXML::CXMLBufferedReader& in) : position(in.Begin()), end(in.End())
+    {
+    }
 
     int ReadChar() { return static_cast<unsigned char>(*position++); }
+    /// Whether all that was read stands in the window.
+    bool isWhole() const { return position <= end; }
+
+    const char* position;
+    const char* end;
 };
 
 template <class Source>
@@ -91,9 +98,9 @@ ZEL_INLINED bool scanInteger(Source& in, std::int32_t& result)
 }
 
 /// True for a whole integer within the window.
-ZEL_INLINED bool scanInteger(CWindow& in, const char* end, std::int32_t& result)
+ZEL_INLINED bool takeInteger(CWindow& in, std::int32_t& result)
 {
-    return scanInteger(in, result) && in.position <= end;
+    return scanInteger(in, result) && in.isWhole();
 }
 
 /// What each digit adds at each place behind the point: digit x weight, the weight of a place being
@@ -119,10 +126,24 @@ struct CProducts {
 
 constexpr CProducts kProducts;
 
-/// Most fractions have six digits, which are here within the window as a word.
-ZEL_INLINED bool scanSix(CWindow& in, const char* end, double& value)
+template <class Source>
+ZEL_INLINED double scanFraction(Source& in, double value)
 {
-    if (end - in.position < 8)
+    int c = in.ReadChar();
+    for (int place = 0; place < CProducts::kPlaces; ++place, c = in.ReadChar()) {
+        if (digitOf(c) > 9)
+            return value;
+        value += kProducts.of[place][digitOf(c)];
+    }
+    for (double weight = kProducts.nextWeight; digitOf(c) <= 9; c = in.ReadChar(), weight *= 0.1)
+        value += digitOf(c) * weight;
+    return value;
+}
+
+/// Most fractions have six digits, and these stand in the window, so that they are one word.
+ZEL_INLINED bool scanSix(CWindow& in, double& value)
+{
+    if (in.end - in.position < 8)
         return false;
     const std::uint64_t digits = digitLanes(OrvaneXML::lanesAt(in.position));
     constexpr std::uint64_t kSeven = 0x00FFFFFFFFFFFFFF;
@@ -136,18 +157,10 @@ ZEL_INLINED bool scanSix(CWindow& in, const char* end, double& value)
     return true;
 }
 
-template <class Source>
-ZEL_INLINED double scanFraction(Source& in, double value)
+/// A reader has no word to look at.
+bool scanSix(OrvaneXML::CXMLBufferedReader&, double&)
 {
-    int c = in.ReadChar();
-    for (int place = 0; place < CProducts::kPlaces; ++place, c = in.ReadChar()) {
-        if (digitOf(c) > 9)
-            return value;
-        value += kProducts.of[place][digitOf(c)];
-    }
-    for (double weight = kProducts.nextWeight; digitOf(c) <= 9; c = in.ReadChar(), weight *= 0.1)
-        value += digitOf(c) * weight;
-    return value;
+    return false;
 }
 
 /// Up to 15 digits are exact in an integer and in a double alike, and an integer is quicker.
@@ -172,37 +185,32 @@ ZEL_INLINED bool scanDouble(Source& in, double& value, bool& negative, int& c)
     if (digitOf(c) > 9 && c != '.')
         return false;
     value = scanWhole(in, c);
-    if (c == '.')
+    if (c == '.' && !scanSix(in, value))
         value = scanFraction(in, value);
     return true;
 }
 
 /// True for a whole number within the window that is written in digits.
 template <class Real>
-ZEL_INLINED bool scanReal(CWindow& in, const char* end, Real& result)
+ZEL_INLINED bool takeReal(CWindow& in, Real& result)
 {
     double value = 0.0;
     bool negative = false;
-    int c = nextOfNumber(in, negative);
-    if (digitOf(c) > 9 && c != '.')
-        return false;
-    value = scanWhole(in, c);
-    if (c == '.' && !scanSix(in, end, value))
-        value = scanFraction(in, value);
-    if (in.position > end)
+    int c = 0;
+    if (!scanDouble(in, value, negative, c) || !in.isWhole())
         return false;
     result = static_cast<Real>(negative ? -value : value);
     return true;
 }
 
 /// True for three of these.
-ZEL_INLINED bool scanPoint(CWindow& in, const char* end, double (&xyz)[3])
+ZEL_INLINED bool takePoint(CWindow& in, double (&xyz)[3])
 {
-    return scanReal(in, end, xyz[0]) && scanReal(in, end, xyz[1]) && scanReal(in, end, xyz[2]);
+    return takeReal(in, xyz[0]) && takeReal(in, xyz[1]) && takeReal(in, xyz[2]);
 }
 
 /// True for a whole vertex within the window.
-ZEL_INLINED bool scanVertex(CWindow& in, const char* end, CZelVertex& vertex)
+ZEL_INLINED bool takeVertex(CWindow& in, CZelVertex& vertex)
 {
     vertex = {};
     int c = nextSolid(in);
@@ -212,12 +220,12 @@ ZEL_INLINED bool scanVertex(CWindow& in, const char* end, CZelVertex& vertex)
     }
     if (c == 'M') {
         vertex.flags |= CZelVertex::kFlagM;
-        if (!scanReal(in, end, vertex.u) || !scanReal(in, end, vertex.v))
+        if (!takeReal(in, vertex.u) || !takeReal(in, vertex.v))
             return false;
     } else {
         --in.position;
     }
-    return scanInteger(in, end, vertex.pointIndex);
+    return takeInteger(in, vertex.pointIndex);
 }
 
 } // namespace
@@ -225,7 +233,7 @@ ZEL_INLINED bool scanVertex(CWindow& in, const char* end, CZelVertex& vertex)
 std::int32_t CFastReader::readInteger()
 {
     std::int32_t value = 0;
-    CWindow window{mIn.Begin()};
+    CWindow window(mIn);
     if (scanInteger(window, value) && consume(window.position))
         return value;
     if (!scanInteger(mIn, value))
@@ -238,7 +246,7 @@ double CFastReader::readDouble()
     double value = 0.0;
     bool negative = false;
     int c = 0;
-    CWindow window{mIn.Begin()};
+    CWindow window(mIn);
     const bool whole = scanDouble(window, value, negative, c) && consume(window.position);
     if (!whole && !scanDouble(mIn, value, negative, c))
         value = readWord(c);
@@ -260,16 +268,15 @@ double CFastReader::readWord(int first)
 
 bool CFastReader::readShort(CShortPolygon& polygon)
 {
-    CWindow in{mIn.Begin()};
-    const char* const end = mIn.End();
+    CWindow in(mIn);
     const int kind = nextSolid(in);
     polygon.isSmooth = kind == 'o';
-    if ((kind != 'p' && kind != 'o') || !scanInteger(in, end, polygon.material) ||
-        !scanInteger(in, end, polygon.nbVertices) || polygon.nbVertices < 0 ||
+    if ((kind != 'p' && kind != 'o') || !takeInteger(in, polygon.material) ||
+        !takeInteger(in, polygon.nbVertices) || polygon.nbVertices < 0 ||
         polygon.nbVertices > CShortPolygon::kMostVertices)
         return false;
     for (std::int32_t i = 0; i < polygon.nbVertices; ++i)
-        if (!scanVertex(in, end, polygon.vertices[i]))
+        if (!takeVertex(in, polygon.vertices[i]))
             return false;
     mIn.Consume(static_cast<std::size_t>(in.position - mIn.Begin()));
     return true;
@@ -277,8 +284,8 @@ bool CFastReader::readShort(CShortPolygon& polygon)
 
 void CFastReader::readPoint(double (&xyz)[3])
 {
-    CWindow in{mIn.Begin()};
-    if (scanPoint(in, mIn.End(), xyz))
+    CWindow in(mIn);
+    if (takePoint(in, xyz))
         return mIn.Consume(static_cast<std::size_t>(in.position - mIn.Begin()));
     for (double& coordinate : xyz)
         coordinate = readDouble();

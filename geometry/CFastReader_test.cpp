@@ -235,7 +235,7 @@ TEST(FastReader, DoublesAreThoseOfTheDigitLoop)
         return value;
     };
     std::mt19937 random(7);
-    for (int i = 0; i < 20'000; ++i) {
+    for (int i = 0; i < 5'000; ++i) {
         std::string text;
         const auto nbWhole = random() % 25, nbBehind = random() % 40;
         for (auto k = nbWhole; k > 0; --k)
@@ -243,6 +243,43 @@ TEST(FastReader, DoublesAreThoseOfTheDigitLoop)
         text += '.';
         for (auto k = nbBehind; k > 0; --k)
             text += static_cast<char>('0' + random() % 10);
-        ASSERT_EQ(doubles(text + " ", 1), std::vector<double>{defined(text)}) << text;
+        // With and without so many bytes behind it that it is read by words.
+        for (const char* behind : {" ", ":", " 1234567", "/1234567", "\x80 123456"})
+            ASSERT_EQ(doubles(text + behind, 1), std::vector<double>{defined(text)}) << text;
     }
+}
+
+TEST(FastReader, PointsAndDoublesAreTheSame)
+{
+    // Longer than the window, so that numbers lie on each place of its border.
+    std::mt19937 random(11);
+    std::string text;
+    constexpr int kNbPoints = 20'000;
+    for (int i = 0; i < 3 * kNbPoints; ++i) {
+        text += random() % 3 == 0 ? "-" : "";
+        text += std::to_string(random() % (random() % 2 == 0 ? 10 : 100'000));
+        text += "." + std::to_string(1'000'000 + random() % 9'000'000).substr(0, random() % 4 + 4);
+        text += i % 3 == 2 ? "\n" : " ";
+    }
+    const auto read = [&](std::size_t step, bool byPoints) {
+        CTestBlockHost host;
+        CXMLTextSource stream(text, step);
+        OrvaneXML::CXMLBufferedReader buffered(&stream);
+        CFastReader in(*CZelMgrRef::from(&host.blockMgrRef()), buffered);
+        std::vector<double> values;
+        for (int i = 0; i < kNbPoints; ++i) {
+            double xyz[3];
+            if (byPoints)
+                in.readPoint(xyz);
+            else
+                for (double& value : xyz)
+                    value = in.readDouble();
+            values.insert(values.end(), xyz, xyz + 3);
+        }
+        return values;
+    };
+    const std::vector<double> byCharacter = read(1, false);
+    EXPECT_EQ(read(CXMLTextSource::kWhole, true), byCharacter);
+    EXPECT_EQ(read(CXMLTextSource::kWhole, false), byCharacter);
+    EXPECT_EQ(read(1'000, true), byCharacter);
 }

@@ -1,5 +1,6 @@
 #include "geometry/CPolygonMgr.h"
 
+#include "core/largePages.h"
 #include "geometry/CPolygon.h"
 #include "geometry/CPolygonView.h"
 
@@ -125,8 +126,8 @@ bool CPolygonMgr::appendFlat(std::int32_t material, bool isSmooth, std::span<con
     }
 }
 
-/// Of a large list nobody has touched the spare room, so it costs next to nothing, and a smaller
-/// copy would cost the list once more for a while.
+/// Of a large list nobody has touched the spare room, which takes no memory then where memory is
+/// given out when it is touched, and a smaller copy would take the list once more for a while.
 void CPolygonMgr::releaseSpareRoom() noexcept
 {
     if (mRecords.capacity() * sizeof(CPolygonRecord) < kLargeArea)

@@ -1,6 +1,7 @@
 #include "geometry/geometryWriter.h"
 
 #include "core/OvThrow.h"
+#include "xml/CZelXMLGet.h"
 #include "xml/IBlockHost.h"
 
 #include <zel/xml/XIXMLElement.h>
@@ -19,10 +20,10 @@ CZelUUID componentId(OrvaneXML::XIXMLData* node, const char* nullIdText)
     OrvaneXML::XIXMLElement* owner = section->GetNode()->GetParent();
     if (owner == nullptr)
         return {};
-    const OrvaneXML::XIXMLAttribute* attribute = owner->FindAttribute(owner->MakeKey("UUID"));
-    if (attribute == nullptr)
+    const char* text = CZelXMLGet(owner).GetOptionalAttribute("UUID");
+    if (text == nullptr)
         return {};
-    const CZelUUID id(attribute->GetValue());
+    const CZelUUID id(text);
     if (id.isNull())
         throw std::runtime_error(nullIdText);
     return id;

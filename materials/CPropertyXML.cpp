@@ -107,7 +107,7 @@ TZelComPtr<CTCENode> CProperty::readNode(CZelXMLIO& io, const CZelXMLGet& in)
         CZelXMLIO& io;
         CZelXMLIO::CIdentities own;
         CZelXMLIO::CIdentities* before = io.identities();
-    } const identities(io);
+    } identities(io);
     return getNode(io, in, &root());
 }
 

@@ -33,7 +33,7 @@ CClassData::CTreePtr CClassData::unpacked() const
 void CClassData::show() const
 {
     if (!mTree) {
-        mTree = mEditTree ? std::move(*mEditTree) : unpacked();
+        mTree = edited() ? std::move(*mEditTree) : unpacked();
         mPacked = {};
     }
 }
@@ -51,15 +51,25 @@ XIXMLElement* CClassData::element() const
     return elementOf(*mTree);
 }
 
+XCXMLTree* CClassData::edited() const
+{
+    return mEditTree ? mEditTree->get() : nullptr;
+}
+
+XCXMLTree* CClassData::tree() const
+{
+    return mTree ? mTree.get() : edited();
+}
+
 void CClassData::read(const CWork& work) const
 {
-    work(elementOf(mTree ? *mTree : *unpacked()));
+    work(elementOf(tree() ? *tree() : *unpacked()));
 }
 
 void CClassData::edit(const CWork& work)
 {
-    if (mTree)
-        return work(elementOf(*mTree));
+    if (tree())
+        return work(elementOf(*tree()));
     show();
     try {
         work(elementOf(*mTree));
@@ -75,7 +85,7 @@ void CClassData::edit(const CWork& work, CTreePtr& workingTree)
     if (!workingTree)
         workingTree = std::make_unique<XCXMLTree>();
     OrvaneXML::XIXMLData* const root = workingTree->GetRoot()->GetNode();
-    if (mTree || workingTree->GetRoot()->GetFirstNode()) // another edit runs around this one
+    if (tree() || workingTree->GetRoot()->GetFirstNode()) // another edit runs around this one
         return edit(work);
     unpackInto(*workingTree);
     mEditTree = &workingTree;
@@ -84,9 +94,9 @@ void CClassData::edit(const CWork& work, CTreePtr& workingTree)
         if (mTree)
             return;
         if (mPacked.pack(*elementOf(*workingTree)))
-            root->Destroy(); // what is in it; a root itself stays
-        else
-            mTree = std::move(workingTree);
+            return root->Destroy(); // what is in it; a root itself stays
+        mTree = std::move(workingTree);
+        mPacked = {};
     };
     try {
         work(elementOf(*workingTree));
@@ -127,8 +137,8 @@ void CClassData::copyFrom(const XIXMLElement& source)
 
 void CClassData::copyInto(XIXMLElement& parent) const
 {
-    if (mTree)
-        elementOf(*mTree)->GetNode()->CloneInto(&parent);
+    if (tree())
+        elementOf(*tree())->GetNode()->CloneInto(&parent);
     else if (!mPacked.isEmpty())
         mPacked.unpackInto(parent);
     else

@@ -58,6 +58,9 @@ public:
 
 private:
     XIXMLElement* elementOf(OrvaneXML::XCXMLTree& tree) const;
+    /// The tree in which the element stands at the moment, or null.
+    OrvaneXML::XCXMLTree* tree() const;
+    OrvaneXML::XCXMLTree* edited() const;
     void unpackInto(OrvaneXML::XCXMLTree& tree) const;
     CTreePtr unpacked() const;
     void show() const;

@@ -208,6 +208,17 @@ TEST(ClassData, EditsInATreeThatOthersUseToo)
                      workingTree),
                  std::runtime_error);
     EXPECT_EQ(textOf(first), "<E><Instance.Data><A/><A/><D/></Instance.Data></E>");
+    // An edit of the same data is in the same tree.
+    first.edit(
+        [&](XIXMLElement* inside) {
+            first.setText("E", "e");
+            first.edit(addA, workingTree);
+            EXPECT_EQ(textOf(first),
+                      "<E><Instance.Data><A/><A/><D/><E>e</E><A/></Instance.Data></E>");
+            addChild(inside, "F");
+        },
+        workingTree);
+    EXPECT_EQ(textOf(first), "<E><Instance.Data><A/><A/><D/><E>e</E><A/><F/></Instance.Data></E>");
     // A section that has its only provider here keeps its tree.
     second.edit([](XIXMLElement* inside) { inside->SetCData(new CSingle); }, workingTree);
     EXPECT_FALSE(workingTree);

@@ -82,6 +82,14 @@ std::vector<CClaim> claims()
         {"components", file(claimingComponents(40))},
         {"a picture", image(picture)},
         {"pictures", file("<Images>" + repeated(section("Image", picture), 80) + "</Images>")},
+        {"a picture of middle size", image("00000001"
+                                           "00000800"
+                                           "00001000")},
+        {"a run too short", image("00000001"
+                                  "00000800"
+                                  "00001000"
+                                  "007FFFFF"
+                                  "FF000000")},
         {"a literal stretch", image(picture + "0FFFFFFF"
                                               "FF000000")},
         {"a wrong run", image("00000001"

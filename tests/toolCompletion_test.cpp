@@ -91,8 +91,7 @@ TEST_P(ToolCompletion, OffersEveryOptionOfACommand)
         CWords help = words;
         help.push_back("--help");
         words.push_back("--");
-        const std::set<std::string> options =
-            optionsIn(runTool(help).output);
+        const std::set<std::string> options = optionsIn(runTool(help).output);
         EXPECT_THAT(options, Contains("--help"));
         EXPECT_EQ(offered(words), options) << testing::PrintToString(words);
     }

@@ -54,14 +54,9 @@ std::unique_ptr<CImageRuns::CPixel[]> CImageRuns::read()
 template <CImageRuns::CPixel pixel(std::uint32_t)>
 std::unique_ptr<CImageRuns::CPixel[]> CImageRuns::readAs()
 {
-    if (mNbPixels <= kMadeAtOnce) {
-        std::unique_ptr<CPixel[]> pixels = newPixels();
-        readInto<pixel>(pixels.get());
-        return pixels;
-    }
     keepRuns();
     std::unique_ptr<CPixel[]> pixels = newPixels();
-    expand<pixel>(pixels.get());
+    readRest<pixel>(expandKept<pixel>(pixels.get()));
     return pixels;
 }
 
@@ -73,9 +68,10 @@ std::unique_ptr<CImageRuns::CPixel[]> CImageRuns::newPixels() const
 }
 
 template <CImageRuns::CPixel pixel(std::uint32_t)>
-void CImageRuns::readInto(CPixel* out)
+void CImageRuns::readRest(CPixel* out)
 {
-    CPixel* const end = out + mNbPixels;
+    CPixel* const end = out + mNbLeft;
+    out = readPixels<pixel>(out, mNbLiterals);
     while (out != end) {
         const std::uint32_t nbRepeats = readCount(static_cast<std::size_t>(end - out));
         CPixel repeated;
@@ -109,23 +105,30 @@ void CImageRuns::readFormat()
     mLittleEndian = format == kLittleEndian;
 }
 
+/// Stops between two pixels or counts, once enough is kept.
 void CImageRuns::keepRuns()
 {
-    const auto keepCount = [this](std::size_t nbLeft) {
-        const std::uint32_t count = readCount(nbLeft);
-        *append(1) = count;
-        return count;
-    };
-    std::size_t nbLeft = mNbPixels;
-    while (nbLeft > 0) {
-        nbLeft -= keepCount(nbLeft);
+    mNbLeft = mNbPixels;
+    while (mNbLeft > 0 && !isEnoughKept()) {
+        mNbLeft -= keepCount();
         keepPixels(1);
-        if (nbLeft == 0)
+        if (mNbLeft == 0)
             break;
-        const std::uint32_t nbLiterals = keepCount(nbLeft);
-        keepPixels(nbLiterals);
-        nbLeft -= nbLiterals;
+        mNbLiterals = keepCount();
+        while (mNbLiterals > 0 && !isEnoughKept()) {
+            const std::uint32_t nb = std::min<std::uint32_t>(mNbLiterals, kWordsAtATime);
+            keepPixels(nb);
+            mNbLiterals -= nb;
+            mNbLeft -= nb;
+        }
     }
+}
+
+std::uint32_t CImageRuns::keepCount()
+{
+    const std::uint32_t count = readCount(mNbLeft);
+    *append(1) = count;
+    return count;
 }
 
 std::uint32_t CImageRuns::readNumber()
@@ -147,11 +150,7 @@ std::uint32_t CImageRuns::readCount(std::size_t nbLeft)
 
 void CImageRuns::keepPixels(std::size_t nb)
 {
-    while (nb > 0) {
-        const std::size_t nbNow = std::min(nb, kWordsAtATime);
-        mReader.read(reinterpret_cast<std::uint8_t*>(append(nbNow)), nbNow);
-        nb -= nbNow;
-    }
+    mReader.read(reinterpret_cast<std::uint8_t*>(append(nb)), nb);
 }
 
 /// Room for further words, which count as there.
@@ -169,20 +168,23 @@ std::uint32_t* CImageRuns::append(std::size_t nb)
     return mWords.data + mNbWords - nb;
 }
 
+/// Returns where the next pixel belongs.
 template <CImageRuns::CPixel pixel(std::uint32_t)>
-void CImageRuns::expand(CPixel* out) const
+CImageRuns::CPixel* CImageRuns::expandKept(CPixel* out) const
 {
-    CPixel* const end = out + mNbPixels;
     const std::uint32_t* word = mWords.data;
-    while (out != end) {
+    const std::uint32_t* const end = word + mNbWords;
+    while (word != end) {
         const std::uint32_t nbRepeats = *word++;
         out = std::fill_n(out, nbRepeats, pixel(*word++));
-        if (out == end)
+        if (word == end)
             break;
         const std::uint32_t nbLiterals = *word++;
-        out = std::transform(word, word + nbLiterals, out, pixel);
-        word += nbLiterals;
+        const auto nbKept = std::min<std::ptrdiff_t>(nbLiterals, end - word);
+        out = std::transform(word, word + nbKept, out, pixel);
+        word += nbKept;
     }
+    return out;
 }
 
 } // namespace OvZel

@@ -12,14 +12,13 @@ namespace OvZel {
 
 /// Reads a stored picture: its size, then its runs.
 ///
-/// A few bytes can claim any size. Up to kMadeAtOnce pixels are made before they are known to come;
-/// of a larger picture the runs are kept first, which take no more memory than their digits did,
-/// and memory for the pixels is taken only when the runs fill the picture exactly.
+/// A few bytes can claim any size. So the runs are kept as they come, which take no more memory
+/// than their digits did. Memory for the pixels is taken when the runs fill the picture exactly, or
+/// when so much of it has come that this memory is a small multiple of that; the rest is then
+/// unpacked while it is read.
 class CImageRuns {
 public:
     using CPixel = trn_image_RGBAn8::CPixel;
-
-    static constexpr std::size_t kMadeAtOnce = 8 * 1024 * 1024;
 
     /// Reads the size. Raises "Unknown format" or "XCXMLImage::Read - Wrong data", and what
     /// CHexReader raises.
@@ -41,14 +40,18 @@ private:
     std::unique_ptr<CPixel[]> newPixels() const;
     template <CPixel pixel(std::uint32_t)>
     std::unique_ptr<CPixel[]> readAs();
-    template <CPixel pixel(std::uint32_t)>
-    void readInto(CPixel* out);
-    template <CPixel pixel(std::uint32_t)>
-    CPixel* readPixels(CPixel* out, std::size_t nb);
+    bool isEnoughKept() const { return mNbWords >= mNbPixels / kPixelsPerWord; }
     void keepRuns();
     void keepPixels(std::size_t nb);
+    std::uint32_t keepCount();
     template <CPixel pixel(std::uint32_t)>
-    void expand(CPixel* out) const;
+    CPixel* expandKept(CPixel* out) const;
+    template <CPixel pixel(std::uint32_t)>
+    void readRest(CPixel* out);
+    template <CPixel pixel(std::uint32_t)>
+    CPixel* readPixels(CPixel* out, std::size_t nb);
+
+    static constexpr std::size_t kPixelsPerWord = 8;
 
     CHexReader mReader;
     bool mLittleEndian = false;
@@ -57,7 +60,7 @@ private:
     std::size_t mNbPixels = 0;
     std::uint32_t* append(std::size_t nb);
 
-    // Of a large picture: a run's count and pixel, then the count and the pixels of the literal
+    // What is kept: a run's count and pixel, then the count and the pixels of the literal
     // stretch behind it, and so on. Counts are numbers, pixels the four bytes of the stream.
     struct CWords {
         ~CWords() { freeBuffer(data, size()); }
@@ -68,6 +71,8 @@ private:
     };
     CWords mWords;
     std::size_t mNbWords = 0;
+    std::size_t mNbLeft = 0;       // pixels that are not kept
+    std::uint32_t mNbLiterals = 0; // of them the next ones, of a stretch that has begun
 };
 
 } // namespace OvZel

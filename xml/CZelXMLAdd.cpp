@@ -2,12 +2,11 @@
 
 #include "core/OvThrow.h"
 #include "xml/hexWord.h"
-#include "xml/tree/CXMLElement.h"
+#include "xml/ownElement.h"
 #include "xml/tree/CXMLText.h"
 
 #include <cstdarg>
 #include <exception>
-#include <typeinfo>
 
 namespace OvZel {
 
@@ -38,9 +37,8 @@ CZelXMLAdd::CZelXMLAdd(XIXMLElement* element) : mElement(element)
 
 XIXMLElement* CZelXMLAdd::newChild(CXMLTag tag) const
 {
-    // An element of the library's own trees knows a literal by its address.
-    if (typeid(*mElement) == typeid(OrvaneXML::CXMLElement))
-        return own().AppendElement(own().NameOf(tag));
+    if (OrvaneXML::CXMLElement* own = ownElement(*mElement))
+        return own->AppendElement(own->NameOf(tag));
     return mElement->AddElement(mElement->MakeKey(tag.text()));
 }
 
@@ -122,16 +120,12 @@ XIXMLElement* CZelXMLAdd::AddFmtData(CXMLTag tag, const char* format, ...) const
     return addText(tag, buffer);
 }
 
-/// Attributes are added to elements of the library's own trees only. Through the interface one
-/// would become an object that nobody wants.
-OrvaneXML::CXMLElement& CZelXMLAdd::own() const
-{
-    return static_cast<OrvaneXML::CXMLElement&>(*mElement);
-}
-
 void CZelXMLAdd::AddAttribute(CXMLTag name, const char* text) const
 {
-    own().SetAttribute(own().NameOf(name), OrvaneXML::textOrEmpty(text));
+    if (OrvaneXML::CXMLElement* own = ownElement(*mElement))
+        own->SetAttribute(own->NameOf(name), OrvaneXML::textOrEmpty(text));
+    else
+        mElement->AddAttribute(mElement->MakeKey(name.text()), text);
 }
 
 void CZelXMLAdd::AddFmtAttribute(CXMLTag name, const char* format, ...) const

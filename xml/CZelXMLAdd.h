@@ -18,12 +18,6 @@
 #define ZEL_PRINTF(text, first)
 #endif
 
-namespace OrvaneXML {
-
-class CXMLElement;
-
-}
-
 namespace OvZel {
 
 class ITable;
@@ -90,7 +84,6 @@ public:
     XIXMLElement* AddIdList(CXMLTag listTag, CXMLTag itemTag, TZelObjectMgr<CZelUUID>& list) const;
 
 private:
-    OrvaneXML::CXMLElement& own() const;
     /// May be null, unlike the result of AddElement.
     XIXMLElement* newChild(CXMLTag tag) const;
     XIXMLElement* addText(CXMLTag tag, const char* text) const;

@@ -1,13 +1,15 @@
 #include "xml/CZelXMLAdd.h"
 
 #include "core/OvThrow.h"
-#include "xml/tree/CXMLElement.h"
+#include "xml/ownElement.h"
 #include "xml/tree/CXMLText.h"
 
 #include <zel/ITable.h>
 #include <zel/IZelPlace.h>
 #include <zel/IZelString.h>
 #include <zel/IZelTime.h>
+
+#include <string>
 
 // The values that are made of several elements or attributes.
 
@@ -27,11 +29,16 @@ bool isLetter(std::uint32_t c)
 template <class TValue, std::size_t kNb, class TPrint>
 void CZelXMLAdd::fill(const TPart<TValue> (&parts)[kNb], TPrint print) const
 {
-    own().FillAttributes(kNb, [&](auto use) {
-        for (const auto& [name, value] : parts) {
-            char text[OrvaneXML::kLongestReal];
-            use(own().NameOf(name), print(text, value));
-        }
+    char text[OrvaneXML::kLongestReal];
+    OrvaneXML::CXMLElement* const own = ownElement(*mElement);
+    if (own == nullptr) {
+        for (const auto& [name, value] : parts)
+            AddAttribute(name, print(text, value).data());
+        return;
+    }
+    own->FillAttributes(kNb, [&](auto use) {
+        for (const auto& [name, value] : parts)
+            use(own->NameOf(name), print(text, value));
     });
 }
 

@@ -6,6 +6,7 @@
 #include "core/CZelString.h"
 #include "core/CZelUUIDX.h"
 #include "core/TObjectMgr.h"
+#include "tests/support/CForeignElement.h"
 #include "tests/support/CTestElement.h"
 #include "tests/support/messageOf.h"
 
@@ -29,31 +30,11 @@ constexpr CZelLabel kLabels[] = {{"Zero", 0}, {"One", 1}, {"Uno", 1}, {"Two", 2}
 constexpr CZelLabel kNoLabels[] = {{nullptr, 0}};
 
 /// An element that gives no children.
-class CBarrenElement : public XIXMLElement {
+class CBarrenElement : public ZelTest::CForeignElement {
 public:
-    XIXMLElement* AddElement(XCXMLKey) override { return nullptr; }
-    XIXMLElement* FindElement(XCXMLKey) const override { return nullptr; }
-    XCXMLKey MakeKey(const char*) const override { return {}; }
+    using CForeignElement::CForeignElement;
 
-    OrvaneXML::XIXMLData* GetNode() override { return nullptr; }
-    const OrvaneXML::XIXMLData* GetNode() const override { return nullptr; }
-    void InsertChild(OrvaneXML::XIXMLData*, OrvaneXML::XIXMLData*) override {}
-    OrvaneXML::XIXMLAttribute* AddAttribute(XCXMLKey, const char*) override { return nullptr; }
-    OrvaneXML::XIXMLData* AddInstruction(const char*, const char*) override { return nullptr; }
-    void SetCData(OrvaneXML::XIXMLData::IXMLCData*) override {}
-    OrvaneXML::XIXMLData* AddText(const char*) override { return nullptr; }
-    XCXMLKey GetKey() const override { return {}; }
-    void SetKey(XCXMLKey) override {}
-    OrvaneXML::XIXMLData* GetFirstText() override { return nullptr; }
-    const OrvaneXML::XIXMLData* GetFirstText() const override { return nullptr; }
-    OrvaneXML::XIXMLData* GetFirstNode() const override { return nullptr; }
-    XIXMLElement* GetFirstElement() const override { return nullptr; }
-    XIXMLElement* GetNextElement() const override { return nullptr; }
-    XIXMLElement* GetNextSame() const override { return nullptr; }
-    OrvaneXML::XIXMLAttribute* GetFirstAttribute() const override { return nullptr; }
-    OrvaneXML::XIXMLAttribute* FindAttribute(XCXMLKey) const override { return nullptr; }
-    OrvaneXML::XIXMLData* AddComment(const char*) override { return nullptr; }
-    bool RemoveAttribute(XCXMLKey) override { return false; }
+    XIXMLElement* AddElement(XCXMLKey) override { return nullptr; }
 };
 
 /// What the document element "E" looks like after the action.
@@ -299,7 +280,23 @@ TEST(ZelXMLAdd, AnElementThatCannotBeMadeIsNamed)
         {[](auto& out) { out.AddLanguages("A", CZelString(nullptr)); }, constructor},
         {[&](auto& out) { out.AddIdList("A", "I", *list); }, element},
     };
-    CBarrenElement barren;
+    const CTestElement document;
+    CBarrenElement barren(*document.element());
     for (const auto& test : cases)
         EXPECT_EQ(messageOf([&] { test.action(CZelXMLAdd(&barren)); }), test.message);
+}
+
+TEST(ZelXMLAdd, WritesIntoAnElementOfAClientToo)
+{
+    const CTestElement own("<E N=\"old\"/>"), foreign("<E N=\"old\"/>");
+    ZelTest::CForeignElement proxy(*foreign.element());
+    for (const CZelXMLAdd& out : {CZelXMLAdd(own.element()), CZelXMLAdd(&proxy)}) {
+        out.AddAttribute("N", "new");
+        out.AddAttribute("M", nullptr);
+        out.AddInteger("I", 5);
+        out.AddCoord3D("P", {1, 2, 3});
+        out.AddColor("C", CZelColor::rgb(1, 2, 3));
+        out.DestroyElements("I");
+    }
+    EXPECT_EQ(foreign.text(), own.text());
 }

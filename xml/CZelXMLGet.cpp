@@ -2,7 +2,7 @@
 
 #include "core/OvThrow.h"
 #include "xml/hexWord.h"
-#include "xml/tree/CXMLElement.h"
+#include "xml/ownElement.h"
 #include "xml/tree/CXMLText.h"
 #include "xml/tree/commonTexts.h"
 
@@ -12,6 +12,7 @@
 namespace OvZel {
 
 using OrvaneXML::CXMLElement;
+using OrvaneXML::XIXMLAttribute;
 using OrvaneXML::XIXMLElement;
 
 namespace {
@@ -46,16 +47,11 @@ CZelXMLGet::CZelXMLGet(XIXMLElement* element) : mElement(element)
     OvThrow::IfNULL(element, "CZelXMLGet::CZelXMLGet");
 }
 
-/// Every element is of the library's own trees. Asking it directly spares the tree the objects that
-/// it makes for those who ask through the interfaces.
-const CXMLElement& CZelXMLGet::own() const
-{
-    return static_cast<const CXMLElement&>(*mElement);
-}
-
 XIXMLElement* CZelXMLGet::FindElement(CXMLTag tag) const
 {
-    return own().FindChild(own().NameOf(tag));
+    if (const CXMLElement* own = ownElement(*mElement))
+        return own->FindChild(own->NameOf(tag));
+    return mElement->FindElement(mElement->MakeKey(tag.text()));
 }
 
 XIXMLElement* CZelXMLGet::GetElement(CXMLTag tag) const
@@ -111,7 +107,10 @@ int CZelXMLGet::GetFmtData(XIXMLElement* element, const char* format, ...)
 
 const char* CZelXMLGet::GetOptionalAttribute(CXMLTag name) const
 {
-    return own().Attributes().ValueOf(own().NameOf(name));
+    if (const CXMLElement* own = ownElement(*mElement))
+        return own->Attributes().ValueOf(own->NameOf(name));
+    const XIXMLAttribute* attribute = mElement->FindAttribute(mElement->MakeKey(name.text()));
+    return attribute != nullptr ? attribute->GetValue() : nullptr;
 }
 
 const char* CZelXMLGet::getAttribute(CXMLTag name, const char* operation) const

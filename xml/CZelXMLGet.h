@@ -19,12 +19,6 @@
 #define ZEL_SCANF(text, first)
 #endif
 
-namespace OrvaneXML {
-
-class CXMLElement;
-
-}
-
 namespace OvZel {
 
 class ITable;
@@ -75,8 +69,9 @@ public:
     const char* GetAttributeLanguage(CXMLTag tag) const;
     /// Empties the text and fills it from the attributes of the child. Without it nothing changes.
     void GetLanguages(CXMLTag tag, IZelString& string) const;
-    /// Calls use(language, text) for each attribute of the wrapped element; the languages are
-    /// two letters in one number.
+    /// Calls use(name, value) for each attribute of the wrapped element.
+    void ForEachAttribute(const std::function<void(const char*, const char*)>& use) const;
+    /// The same by language: the two letters of the name in one number.
     void ForEachLanguage(const std::function<void(std::uint32_t, const char*)>& use) const;
 
     /// "X" and "Y" of the wrapped element; each is required.
@@ -110,7 +105,6 @@ public:
     void GetIdList(CXMLTag listTag, CXMLTag itemTag, TZelObjectMgr<CZelUUID>& list) const;
 
 private:
-    const OrvaneXML::CXMLElement& own() const;
     const char* getAttribute(CXMLTag name, const char* operation) const;
     double optionalCoord(CXMLTag name, double start) const;
     std::array<double, 3> optionalXYZ(const std::array<double, 3>& start) const;

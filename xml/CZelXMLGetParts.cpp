@@ -1,7 +1,7 @@
 #include "xml/CZelXMLGet.h"
 
 #include "core/OvThrow.h"
-#include "xml/tree/CXMLElement.h"
+#include "xml/ownElement.h"
 #include "xml/tree/CXMLText.h"
 
 #include <zel/ITable.h>
@@ -11,6 +11,7 @@
 #include <zel/IZelTime.h>
 
 #include <cstdlib>
+#include <cstring>
 
 // The values that are made of several elements or attributes.
 
@@ -62,12 +63,21 @@ void CZelXMLGet::GetLanguages(CXMLTag tag, IZelString& string) const
 
 void CZelXMLGet::ForEachLanguage(const std::function<void(std::uint32_t, const char*)>& use) const
 {
-    own().Attributes().ForEach([&use](const SXMLName* name, const char* text) {
-        const char* letters = name->text();
-        const auto first = static_cast<unsigned char>(letters[0]);
-        const auto second = static_cast<unsigned char>(first != 0 ? letters[1] : '\0');
+    ForEachAttribute([&use](const char* name, const char* text) {
+        const auto first = static_cast<unsigned char>(name[0]);
+        const auto second = static_cast<unsigned char>(first != 0 ? name[1] : '\0');
         use(first * 256U + second, text);
     });
+}
+
+void CZelXMLGet::ForEachAttribute(const std::function<void(const char*, const char*)>& use) const
+{
+    if (const OrvaneXML::CXMLElement* own = ownElement(*mElement))
+        return own->Attributes().ForEach(
+            [&use](const SXMLName* name, const char* value) { use(name->text(), value); });
+    const OrvaneXML::XIXMLAttribute* attribute = mElement->GetFirstAttribute();
+    for (; attribute != nullptr; attribute = attribute->GetNext())
+        use(attribute->GetKey(), attribute->GetValue());
 }
 
 std::array<double, 2> CZelXMLGet::GetCoord2D() const
@@ -225,8 +235,8 @@ void CZelXMLGet::GetIdList(CXMLTag listTag, CXMLTag itemTag, TZelObjectMgr<CZelU
     const CZelXMLGet in(found);
     if (in.GetOptionalAttribute("UUID") != nullptr) {
         bool isBehind = false;
-        in.own().Attributes().ForEach([&](const SXMLName* name, const char* id) {
-            isBehind = isBehind || name->Is("UUID");
+        in.ForEachAttribute([&](const char* name, const char* id) {
+            isBehind = isBehind || std::strcmp(name, "UUID") == 0;
             if (isBehind)
                 append(list, CZelUUID(id));
         });

@@ -1,6 +1,7 @@
 #include "xml/CZelXMLGet.h"
 
 #include "core/CZelString.h"
+#include "tests/support/CForeignElement.h"
 #include "tests/support/CTestElement.h"
 #include "tests/support/messageOf.h"
 #include "xml/CZelXMLAdd.h"
@@ -191,4 +192,22 @@ TEST(ZelXMLGet, LanguagesComeBack)
     ASSERT_EQ(again.getNbTexts(), 2U);
     EXPECT_STREQ(again.getText(0x6672), "f");
     EXPECT_STREQ(again.getText(0x656E), "");
+}
+
+TEST(ZelXMLGet, ReadsAnElementOfAClientToo)
+{
+    const CTestElement document(
+        "<E X=\"1.5\" Y=\"2\" Z=\"3\" U=\"0123456789ABCDEF0123456789ABCDEF\"><A>7</A></E>");
+    ZelTest::CForeignElement proxy(*document.element());
+    const CZelXMLGet in(&proxy);
+    const CZelPoint point = in.GetCoord3D();
+    EXPECT_EQ(point.x, 1.5);
+    EXPECT_EQ(point.z, 3.0);
+    EXPECT_EQ(in.GetInteger("A"), 7);
+    EXPECT_FALSE(in.IsElement("B"));
+    EXPECT_EQ(in.GetOptionalAttribute("V"), nullptr);
+    EXPECT_EQ(in.GetUUID("U"), CZelUUID("0123456789ABCDEF0123456789ABCDEF"));
+    std::string names;
+    in.ForEachAttribute([&names](const char* name, const char*) { names += name; });
+    EXPECT_EQ(names, "XYZU");
 }

@@ -268,7 +268,7 @@ TEST(XCXMLImage, APictureWithoutAreaIsNoBitmap)
 TEST(XCXMLImage, RandomPicturesComeBack)
 {
     std::mt19937 random(1);
-    for (int i = 0; i < 60; ++i) {
+    for (int i = 0; i < 200; ++i) {
         const auto width = static_cast<std::uint32_t>(1 + random() % 90);
         const auto height = static_cast<std::uint32_t>(1 + random() % 90);
         const std::vector<CPixel> pixels = randomPixels(random, width * height);
@@ -277,6 +277,71 @@ TEST(XCXMLImage, RandomPicturesComeBack)
         read(image, text, i % 2 == 0 ? CXMLTextSource::kWhole : 1 + random() % 3000);
         ASSERT_EQ(pixelsOf(image), pixels) << width << " x " << height;
         ASSERT_EQ(written(width, height, pixelsOf(image)), text);
+    }
+}
+
+namespace {
+
+std::string turned(const std::string& word)
+{
+    return word.substr(6, 2) + word.substr(4, 2) + word.substr(2, 2) + word.substr(0, 2);
+}
+
+/// The same runs in a file with the low byte of each number first; pixels stay as they are.
+std::string littleEndian(const std::string& text)
+{
+    std::string result;
+    std::size_t at = 0;
+    const auto number = [&] {
+        const std::string word = text.substr(at, 8);
+        result += turned(word);
+        at += 8;
+        return std::stoul(word, nullptr, 16);
+    };
+    const auto pixels = [&](std::size_t nb) {
+        result += text.substr(at, nb * 8);
+        at += nb * 8;
+    };
+    number();
+    number();
+    number();
+    while (at < text.size()) {
+        number();
+        pixels(1);
+        if (at < text.size())
+            pixels(number());
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(XCXMLImage, RandomPicturesOfTheOtherOrderKeepTheirFirstByte)
+{
+    std::mt19937 random(2);
+    for (int i = 0; i < 50; ++i) {
+        const auto width = static_cast<std::uint32_t>(1 + random() % 90);
+        std::vector<CPixel> pixels = randomPixels(random, width * 7);
+        XCXMLImage image;
+        read(image, littleEndian(written(width, 7, pixels)));
+        for (CPixel& pixel : pixels)
+            pixel = {pixel.alpha, 0, 0, 0};
+        ASSERT_EQ(pixelsOf(image), pixels) << width;
+    }
+}
+
+TEST(XCXMLImage, APictureThatEndsAnywhereTooEarlyLeavesTheOldOne)
+{
+    std::mt19937 random(3);
+    for (int i = 0; i < 10; ++i) {
+        const std::string text = written(13, 11, randomPixels(random, 13 * 11));
+        XCXMLImage image;
+        read(image, "000000010000000100000001"
+                    "00000001" A_);
+        for (std::size_t nb = 24; nb < text.size(); nb += 8)
+            EXPECT_EQ(messageOf([&] { read(image, text.substr(0, nb)); }),
+                      "XCXMLImage::ReadHex - Read stream error");
+        EXPECT_EQ(pixelsOf(image), std::vector<CPixel>{kA});
     }
 }
 

@@ -23,7 +23,8 @@ bool isElement(const CXMLNode* node, const SXMLName* name)
 void fetchAhead([[maybe_unused]] const CXMLNode* node)
 {
 #if defined(__GNUC__)
-    __builtin_prefetch(reinterpret_cast<const char*>(node) + 1024);
+    __builtin_prefetch(
+        reinterpret_cast<const void*>(reinterpret_cast<std::uintptr_t>(node) + 1024));
 #endif
 }
 

@@ -98,6 +98,15 @@ public:
     {
         mAttributes.Fill(Store(), nb, forEach);
     }
+    /// Removes all and fills anew; what is used may be of those that go.
+    template <class TForEach>
+    void ReplaceAttributes(std::size_t nb, TForEach forEach)
+    {
+        CXMLAttributes fresh;
+        fresh.Fill(Store(), nb, forEach);
+        mAttributes.Release(Store());
+        mAttributes = fresh;
+    }
     /// As AddAttribute, which makes objects of all.
     void SetAttribute(const SXMLName* name, std::string_view value);
     CXMLNode* InsertText(std::string_view text, CXMLNode* before);

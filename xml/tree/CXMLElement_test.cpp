@@ -235,6 +235,32 @@ TEST_F(XmlElement, TextsArePrintedScannedAndSet)
     EXPECT_EQ(flat(), "<top>other</top>");
 }
 
+TEST_F(XmlElement, TheCommonestTextsAreThoseOfAllTrees)
+{
+    const std::string noId(32, '0');
+    XCXMLTree other;
+    XIXMLElement* root = other.GetRoot();
+    for (const std::string& text : {std::string("0.000000"), std::string("1.000000"), noId}) {
+        XIXMLAttribute* here = top->AddAttribute(key("x"), text.c_str());
+        XIXMLElement* there = root->AddElement(root->MakeKey("a"));
+        there->GetNode()->SetText(text.c_str());
+        EXPECT_EQ(here->GetValue(), text);
+        EXPECT_EQ(here->GetValue(), there->GetNode()->GetText());
+        here->SetValue(here->GetValue() + 1); // a part of itself
+        EXPECT_EQ(here->GetValue(), text.substr(1));
+        here->SetValue("2.000000");
+        here->SetValue(text.c_str());
+        EXPECT_EQ(here->GetValue(), there->GetNode()->GetText());
+        EXPECT_EQ(flat(), "<top x=\"" + text + "\"/>");
+        there->GetNode()->Destroy();
+        top->RemoveAttribute(key("x"));
+    }
+    for (const char* other8 : {"2.000000", "0.000001", "1.0000000", "0.00000"}) {
+        top->AddAttribute(key("x"), other8);
+        EXPECT_EQ(flat(), std::string("<top x=\"") + other8 + "\"/>");
+    }
+}
+
 TEST_F(XmlElement, SetTextOnAnElementWithoutTextAddsOne)
 {
     top->GetNode()->SetText("new");

@@ -213,14 +213,27 @@ TEST(XmlScanner, NamesAreGuessedFromThoseOfTheTree)
 
 TEST(XmlScanner, ABadNameIsNeverGuessed)
 {
-    CXMLStore store;
-    store.names.InternElement("a");
-    for (const char* bad : {"", "b x", "b/", "\x01"}) {
-        store.names.InternElement(bad);
+    const struct {
+        const char *guess, *text, *tokens;
+    } cases[] = {
+        {"", "< x/>", "XML syntax error in line 1: bad name"},
+        {"b x", "<b x='1'/>", "<b x=1></>"},
+        {"b/", "<b/ >", "XML syntax error in line 1: \">\" expected"},
+    };
+    for (const auto& [guess, text, tokens] : cases) {
+        CXMLStore store;
+        store.names.InternElement("a");
+        store.names.InternElement(guess);
         store.names.TakeElement(store.names.Intern("a"));
-        CXMLTextSource source("< x/>");
-        CXMLScanner scanner(source, &store.names);
-        EXPECT_EQ(messageOf([&] { scanner.Next(); }), "XML syntax error in line 1: bad name");
+        EXPECT_EQ(store.names.GuessElement()->view(), guess);
+        std::string seen;
+        const std::string message = messageOf([&, text = text] {
+            CXMLTextSource source(text);
+            CXMLScanner scanner(source, &store.names);
+            while (scanner.Next() == EToken::Leaf)
+                seen += startOf(scanner) + "</>";
+        });
+        EXPECT_EQ(seen.empty() ? message : seen, tokens) << guess;
     }
 }
 

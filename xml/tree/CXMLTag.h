@@ -6,7 +6,8 @@
 namespace OrvaneXML {
 
 /// The name of an element or attribute in the code. Nearly all are literals, which stay as they are
-/// where they are, so that a tree knows one again by its address alone.
+/// where they are, so that a tree knows one again by its address alone. An array that changes must
+/// not be handed over as one; it can be a std::string.
 class CXMLTag {
 public:
     template <std::size_t kSize>
