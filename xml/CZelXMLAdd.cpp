@@ -146,6 +146,8 @@ void CZelXMLAdd::AddAttributeLabel(CXMLTag name, const CZelLabel* table, std::in
 
 void CZelXMLAdd::AddUUID(CXMLTag name, const CZelUUID& id) const
 {
+    if (id.isNull())
+        return AddAttribute(name, OrvaneXML::kNoIdText);
     char text[33];
     for (std::size_t i = 0; i < 4; ++i)
         encodeHexWord(id.bytes + i * 4, text + i * 8);

@@ -46,7 +46,7 @@ struct CXMLStore {
     /// no memory.
     const char* NewText(std::string_view text)
     {
-        if (const char* common = CommonText(text))
+        if (const char* common = commonText(text))
             return common;
         char* copy = pool.AllocateText(text.size() + 1);
         copyBytes(copy, text.data(), text.size());
@@ -55,7 +55,7 @@ struct CXMLStore {
     }
     void FreeText(const char* text)
     {
-        if (!IsCommonText(text))
+        if (!isCommonText(text))
             pool.FreeText(const_cast<char*>(text), LengthOf(text) + 1);
     }
     /// Of a text of a tree, from the beginning of which 16 bytes can be read.

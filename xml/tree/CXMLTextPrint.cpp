@@ -1,6 +1,7 @@
 #include "xml/tree/CXMLText.h"
 
 #include "xml/tree/CXMLTextFormat.h"
+#include "xml/tree/commonTexts.h"
 
 #include <algorithm>
 #include <charconv>
@@ -185,6 +186,10 @@ int printText(char* buffer, std::size_t size, const char* format, std::va_list a
 
 std::string_view printReal(char (&buffer)[kLongestReal], double value)
 {
+    if (const char* common = commonReal(value)) {
+        std::memcpy(buffer, common, kCommonReal + 1);
+        return {buffer, kCommonReal};
+    }
     std::uint64_t millionths = 0;
     if (!toMillionths(std::fabs(value), millionths)) {
         const int length = printTextf(buffer, sizeof buffer, "%f", value);

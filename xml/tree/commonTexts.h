@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -20,7 +21,7 @@ inline constexpr const char* kOneText = kCommonTexts[2];
 inline constexpr const char* kNoIdText = kCommonTexts[3];
 
 /// The one that is the same, or null.
-inline const char* CommonText(std::string_view text)
+inline const char* commonText(std::string_view text)
 {
     const char* const bytes = text.data();
     switch (text.size()) {
@@ -37,7 +38,17 @@ inline const char* CommonText(std::string_view text)
     }
 }
 
-inline bool IsCommonText(const char* text)
+inline constexpr std::size_t kCommonReal = 8;
+
+/// The text of a number if it is one of these, or null.
+inline const char* commonReal(double value)
+{
+    if (value == 1.0)
+        return kOneText;
+    return value == 0.0 && !std::signbit(value) ? kZeroText : nullptr;
+}
+
+inline bool isCommonText(const char* text)
 {
     return reinterpret_cast<std::uintptr_t>(text) - reinterpret_cast<std::uintptr_t>(kCommonTexts) <
            sizeof kCommonTexts;
