@@ -29,7 +29,8 @@ void putVertex(CPen& pen, const CZelVertex& vertex)
     pen.integer(vertex.pointIndex);
 }
 
-void writeLoop(CFastWriter& out, CPen& pen, std::span<const CZelVertex> vertices)
+/// Takes the pen and gives it back, so that it stays in a register in between.
+CPen writeLoop(CFastWriter& out, CPen pen, std::span<const CZelVertex> vertices)
 {
     constexpr std::size_t kAtATime = 64;
     constexpr std::size_t kVertex = 4 * CFastWriter::kLongest;
@@ -42,9 +43,10 @@ void writeLoop(CFastWriter& out, CPen& pen, std::span<const CZelVertex> vertices
             putVertex(pen, vertex);
         vertices = vertices.subspan(count);
     }
+    return pen;
 }
 
-void writePolygon(CFastWriter& out, CPen& pen, const CPolygonView& polygon, CZelMgrRef& mgrRef)
+CPen writePolygon(CFastWriter& out, CPen pen, const CPolygonView& polygon, CZelMgrRef& mgrRef)
 {
     if (polygon.nbLoops() > 1 && polygon.isSmooth())
         mgrRef.warning("Holed polygon smoothed (smoothing will be loss)");
@@ -56,9 +58,10 @@ void writePolygon(CFastWriter& out, CPen& pen, const CPolygonView& polygon, CZel
     if (loops > 1)
         pen.integer(loops);
     for (std::int32_t i = 0; i < loops; ++i)
-        writeLoop(out, pen, polygon.loop(i));
+        pen = writeLoop(out, pen, polygon.loop(i));
     out.makeRoom(pen, 1);
     pen.text("\n");
+    return pen;
 }
 
 void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std::int32_t count,
@@ -82,7 +85,7 @@ void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std
                 throw std::runtime_error("CPolygonsProvider::Write2 - External storage cancel IO");
             polygon.emplace(*scratch);
         }
-        writePolygon(out, pen, *polygon, mgrRef);
+        pen = writePolygon(out, pen, *polygon, mgrRef);
         pacer.step(i);
     }
     out.done(pen);
