@@ -62,14 +62,6 @@ public:
             flush();
         return {mBuffer.get() + mUsed};
     }
-    /// Room for so many bytes behind what the pen has written.
-    void makeRoom(CPen& pen, std::size_t size)
-    {
-        if (static_cast<std::size_t>(mBuffer.get() + kSize - pen.out) >= size)
-            return;
-        done(pen);
-        pen = this->pen(size);
-    }
     void done(const CPen& pen) { mUsed = static_cast<std::size_t>(pen.out - mBuffer.get()); }
 
     void flush();

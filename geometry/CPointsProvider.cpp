@@ -17,7 +17,6 @@ void writePoints(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std::
 {
     const auto* own = dynamic_cast<const CZELGeoWriter*>(&storage);
     CPacer pacer(host, 0, count);
-    CFastWriter::CPen pen = out.pen(0);
     std::int32_t i = 0;
     for (; i < count; ++i) {
         CZelPoint buffer;
@@ -27,12 +26,12 @@ void writePoints(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std::
                 throw std::runtime_error("CPointsProvider::Write2 - External storage cancel IO");
             point = &buffer;
         }
-        out.makeRoom(pen, 1 + 3 * CFastWriter::kLongest);
+        CFastWriter::CPen pen = out.pen(1 + 3 * CFastWriter::kLongest);
         pen.text("\n");
         pen.point(*point);
+        out.done(pen);
         pacer.step(i);
     }
-    out.done(pen);
     pacer.step(i);
 }
 

@@ -29,39 +29,40 @@ void putVertex(CPen& pen, const CZelVertex& vertex)
     pen.integer(vertex.pointIndex);
 }
 
-/// Takes the pen and gives it back, so that it stays in a register in between.
-CPen writeLoop(CFastWriter& out, CPen pen, std::span<const CZelVertex> vertices)
+void writeLoop(CFastWriter& out, std::span<const CZelVertex> vertices)
 {
     constexpr std::size_t kAtATime = 64;
     constexpr std::size_t kVertex = 4 * CFastWriter::kLongest;
-    out.makeRoom(pen, CFastWriter::kLongest);
+    CPen pen = out.pen(CFastWriter::kLongest);
     pen.integer(static_cast<std::int32_t>(vertices.size()));
+    out.done(pen);
     while (!vertices.empty()) {
         const std::size_t count = std::min(vertices.size(), kAtATime);
-        out.makeRoom(pen, count * kVertex);
+        pen = out.pen(count * kVertex);
         for (const CZelVertex& vertex : vertices.first(count))
             putVertex(pen, vertex);
+        out.done(pen);
         vertices = vertices.subspan(count);
     }
-    return pen;
 }
 
-CPen writePolygon(CFastWriter& out, CPen pen, const CPolygonView& polygon, CZelMgrRef& mgrRef)
+void writePolygon(CFastWriter& out, const CPolygonView& polygon, CZelMgrRef& mgrRef)
 {
     if (polygon.nbLoops() > 1 && polygon.isSmooth())
         mgrRef.warning("Holed polygon smoothed (smoothing will be loss)");
     const std::int32_t loops = polygon.nbLoops();
     const bool isSmooth = polygon.isSmooth();
-    out.makeRoom(pen, 3 * CFastWriter::kLongest);
+    CPen pen = out.pen(3 * CFastWriter::kLongest);
     pen.text(loops > 1 ? "h\t" : isSmooth ? "o\t" : "p\t");
     pen.integer(polygon.getMaterial());
     if (loops > 1)
         pen.integer(loops);
+    out.done(pen);
     for (std::int32_t i = 0; i < loops; ++i)
-        pen = writeLoop(out, pen, polygon.loop(i));
-    out.makeRoom(pen, 1);
+        writeLoop(out, polygon.loop(i));
+    pen = out.pen(1);
     pen.text("\n");
-    return pen;
+    out.done(pen);
 }
 
 void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std::int32_t count,
@@ -73,7 +74,6 @@ void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std
     CPolygon* scratch = owner->append();
     OvThrow::IfNULL(scratch);
     CPacer pacer(host, CPacer::kSpan, count);
-    CPen pen = out.pen(0);
     std::int32_t i = 0;
     for (; i < count; ++i) {
         std::optional<CPolygonView> polygon;
@@ -85,10 +85,9 @@ void writePolygons(IBlockHost& host, IZelExtStorageWriter::IWriter& storage, std
                 throw std::runtime_error("CPolygonsProvider::Write2 - External storage cancel IO");
             polygon.emplace(*scratch);
         }
-        pen = writePolygon(out, pen, *polygon, mgrRef);
+        writePolygon(out, *polygon, mgrRef);
         pacer.step(i);
     }
-    out.done(pen);
     pacer.step(i);
 }
 
