@@ -38,16 +38,9 @@ void CClassData::show() const
     }
 }
 
-void CClassData::putAway()
-{
-    if (!mIsShown && mPacked.pack(*elementOf(*mTree)))
-        mTree.reset();
-}
-
 XIXMLElement* CClassData::element() const
 {
     show();
-    mIsShown = true;
     return elementOf(*mTree);
 }
 
@@ -68,24 +61,18 @@ void CClassData::read(const CWork& work) const
 
 void CClassData::edit(const CWork& work)
 {
-    if (tree())
-        return work(elementOf(*tree()));
-    show();
-    try {
-        work(elementOf(*mTree));
-    } catch (...) {
-        putAway();
-        throw;
-    }
-    putAway();
+    CTreePtr own;
+    edit(work, own);
 }
 
 void CClassData::edit(const CWork& work, CTreePtr& workingTree)
 {
+    if (tree())
+        return work(elementOf(*tree()));
     if (!workingTree)
         workingTree = std::make_unique<XCXMLTree>();
-    OrvaneXML::XIXMLData* const root = workingTree->GetRoot()->GetNode();
-    if (tree() || workingTree->GetRoot()->GetFirstNode()) // another edit runs around this one
+    OrvaneXML::XIXMLElement* const root = workingTree->GetRoot();
+    if (root->GetFirstNode()) // the edit of another one runs around this one
         return edit(work);
     unpackInto(*workingTree);
     mEditTree = &workingTree;
@@ -94,7 +81,7 @@ void CClassData::edit(const CWork& work, CTreePtr& workingTree)
         if (mTree)
             return;
         if (mPacked.pack(*elementOf(*workingTree)))
-            return root->Destroy(); // what is in it; a root itself stays
+            return root->GetNode()->Destroy(); // what is in it; a root itself stays
         mTree = std::move(workingTree);
         mPacked = {};
     };
@@ -132,7 +119,6 @@ void CClassData::copyFrom(const XIXMLElement& source)
         mTree = std::move(tree);
         mPacked = {};
     }
-    mIsShown = false;
 }
 
 void CClassData::copyInto(XIXMLElement& parent) const

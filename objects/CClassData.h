@@ -64,14 +64,12 @@ private:
     void unpackInto(OrvaneXML::XCXMLTree& tree) const;
     CTreePtr unpacked() const;
     void show() const;
-    void putAway();
 
     const char* mTag;
     // One of the two holds the data, and nobody can see which; neither does for an empty element.
     mutable CPackedElement mPacked;
     mutable CTreePtr mTree;
     CTreePtr* mEditTree = nullptr; // where it is edited, and becomes its own if somebody looks
-    mutable bool mIsShown = false; // somebody has a pointer into the tree
 };
 
 } // namespace OvZel
