@@ -77,18 +77,20 @@ CONF
     await 30 "the node" eval 'sinfo -h -o %T 2> /dev/null | grep -q idle'
 }
 
-# The node dies: its daemon, what that started for each job, and the jobs.
+# The node dies: its daemon, what that started for each job, and the jobs. The daemons go first, as
+# one that outlives its job tells that the job has failed, and a failed job does not come back.
 kill_node() {
-    local job pid victims=()
+    local job pid daemons=("$node") victims=()
     for job in $(squeue -h -r -t R -o %A); do
         for pid in $(scontrol listpids "$job" | awk 'NR > 1 { print $1 }'); do
             victims+=("$pid")
             # The parent of the script is the daemon of the job.
             grep -qz slurm_script "/proc/$pid/cmdline" &&
-                victims+=("$(awk '/^PPid/ { print $2 }' "/proc/$pid/status")")
+                daemons+=("$(awk '/^PPid/ { print $2 }' "/proc/$pid/status")")
         done
     done
-    kill -KILL "$node" "${victims[@]}" 2> /dev/null || true # some may have ended by now
+    [[ ${#daemons[@]} == 3 ]] || { echo "FAILED: not both jobs are found"; exit 1; }
+    kill -KILL "${daemons[@]}" "${victims[@]}" 2> /dev/null || true # some may have ended by now
     { wait "$node" || true; } 2> /dev/null
     # As a health check does; the silence of the node would tell in some 30 s.
     scontrol update "nodename=$host" state=down reason=dead
