@@ -15,8 +15,10 @@ CFileReadStream::CFileReadStream(const std::string& path)
 
 std::uint32_t CFileReadStream::read(void* buffer, std::uint32_t size)
 {
-    if (isInterrupted())
+    if (isInterrupted()) {
+        dropStandardOutput(); // where the probes would print that the file ends here
         return 0;
+    }
     mFile.clear();
     mFile.read(static_cast<char*>(buffer), static_cast<std::streamsize>(size));
     mFailed = mFailed || mFile.bad();

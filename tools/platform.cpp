@@ -51,6 +51,15 @@ int takeStandardOutput()
     return output;
 }
 
+void dropStandardOutput()
+{
+    const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
+    if (nowhere < 0)
+        return;
+    ::dup2(nowhere, STDOUT_FILENO);
+    ::close(nowhere);
+}
+
 int createFile(const std::string& path, const std::string& permissionsOf)
 {
     const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

@@ -133,6 +133,15 @@ int takeStandardOutput()
     return output;
 }
 
+void dropStandardOutput()
+{
+    const int nowhere = _open("NUL", _O_WRONLY | _O_BINARY | _O_NOINHERIT);
+    if (nowhere < 0)
+        return;
+    _dup2(nowhere, _fileno(stdout));
+    _close(nowhere);
+}
+
 int createFile(const std::string& path, const std::string&)
 {
     // replaceFile gives it the permissions.

@@ -49,12 +49,20 @@ bool CTracedTool::goToNextStop()
         if (ptrace(PTRACE_SYSCALL, mProcess, nullptr, signal) != 0 ||
             waitpid(mProcess, &status, 0) < 0 || !WIFSTOPPED(status)) {
             mProcess = -1;
+            if (WIFEXITED(status))
+                mExitCode = WEXITSTATUS(status);
             return false;
         }
         if (WSTOPSIG(status) == (SIGTRAP | 0x80))
             return true;
-        signal = WSTOPSIG(status);
+        // That another program begins in the process is told by a signal that would end it.
+        signal = WSTOPSIG(status) == SIGTRAP ? 0 : WSTOPSIG(status);
     }
+}
+
+void CTracedTool::send(int signal)
+{
+    kill(mProcess, signal);
 }
 
 void CTracedTool::end()

@@ -20,11 +20,16 @@ public:
 
     /// Goes on to the next stop; false when the program has ended instead.
     bool goToNextStop();
+    /// Its exit code once it has ended by itself; -1 before, or when a signal has ended it.
+    int exitCode() const { return mExitCode; }
+    /// Sends it a signal, which it gets when it goes on.
+    void send(int signal);
     /// Kills it where it stands: a call at whose beginning it stands is not made.
     void end();
 
 private:
     pid_t mProcess;
+    int mExitCode = -1;
 };
 
 } // namespace ZelTest
