@@ -2,6 +2,7 @@
 
 #include "core/XCMutexRecursive.h"
 #include "core/changeCount.h"
+#include "core/inlined.h"
 
 #include <zel/IZelSharedPtrBase.h>
 
@@ -58,12 +59,12 @@ public:
     virtual ~CZelSharedPtrBase() = default;
 
 protected:
-    void raiseStrong()
+    ZEL_INLINED void raiseStrong()
     {
         if (!changeCount(mStrong, 1, 1))
             raiseStrongFromZero();
     }
-    void lowerStrong(bool destroy)
+    ZEL_INLINED void lowerStrong(bool destroy)
     {
         if (!changeCount(mStrong, 2, kMinusOne))
             lowerStrongToZero(destroy);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/inlined.h"
 #include "core/isSingleThreaded.h"
 
 #include <atomic>
@@ -11,7 +12,8 @@ namespace OvZel {
 inline constexpr auto kMinusOne = static_cast<std::uint32_t>(-1);
 
 /// Adds to the count unless it is below the bound; says whether it did.
-inline bool changeCount(std::atomic<std::uint32_t>& count, std::uint32_t bound, std::uint32_t by)
+ZEL_INLINED bool changeCount(std::atomic<std::uint32_t>& count, std::uint32_t bound,
+                             std::uint32_t by)
 {
     std::uint32_t value = count.load(std::memory_order_relaxed);
     if (isSingleThreaded()) {

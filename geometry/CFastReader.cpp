@@ -2,6 +2,7 @@
 
 #include "core/CZelMgrRef.h"
 #include "core/OvThrow.h"
+#include "core/inlined.h"
 #include "geometry/CPolygon.h"
 #include "geometry/digitLanes.h"
 
@@ -12,11 +13,6 @@
 // A number depends on the one in front of it by its place alone. That place stays in a register,
 // from number to number, only where all of these become one function; handed on through memory it
 // is what a mesh waits for.
-#if defined(__GNUC__)
-#define ZEL_INLINED [[gnu::always_inline]] inline
-#else
-#define ZEL_INLINED inline
-#endif
 
 namespace OvZel {
 
