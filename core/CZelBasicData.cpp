@@ -6,17 +6,26 @@ namespace OvZel {
 
 CZelBasicData::CParts& CZelBasicData::parts() const
 {
-    if (!mParts) {
-        auto made = std::make_unique<CParts>();
-        made->id = generateId();
-        mParts = std::move(made);
-    }
+    if (!mParts)
+        mParts = std::make_unique<CParts>();
     return *mParts;
+}
+
+const CZelUUID* CZelBasicData::getId() const
+{
+    CParts& all = parts();
+    if (!all.hasId) {
+        all.id = generateId();
+        all.hasId = true;
+    }
+    return &all.id;
 }
 
 void CZelBasicData::setId(const CZelUUID* id)
 {
-    parts().id = id != nullptr ? *id : CZelUUID();
+    CParts& all = parts();
+    all.id = id != nullptr ? *id : CZelUUID();
+    all.hasId = true;
 }
 
 void CZelBasicData::setName(const char* name)
@@ -28,10 +37,10 @@ void CZelBasicData::setName(const char* name)
 
 IUnknown* CZelBasicData::getUserData(const CZelUUID* key) const
 {
-    if (!mParts || key == nullptr)
+    if (!mParts || !mParts->userData || key == nullptr)
         return nullptr;
-    const auto found = mParts->userData.find(*key);
-    return found != mParts->userData.end() ? found->second.get() : nullptr;
+    const auto found = mParts->userData->find(*key);
+    return found != mParts->userData->end() ? found->second.get() : nullptr;
 }
 
 void CZelBasicData::setUserData(const CZelUUID* key, IUnknown* data)
@@ -39,8 +48,11 @@ void CZelBasicData::setUserData(const CZelUUID* key, IUnknown* data)
     if (key == nullptr)
         return;
     TZelComPtr<IUnknown> taken(data);
+    CParts& all = parts();
+    if (!all.userData)
+        all.userData = std::make_unique<CUserData>();
     // The old value is released behind the assignment, when the map is whole again.
-    std::swap(parts().userData[*key], taken);
+    std::swap((*all.userData)[*key], taken);
 }
 
 } // namespace OvZel

@@ -14,10 +14,11 @@ namespace OvZel {
 /// Identifier, name, client data and the user interface's number of one object.
 ///
 /// A mesh has a million of them that nobody asks for, so the values are made at the first call that
-/// needs them, the identifier with them.
+/// needs them. The identifier waits for its own, since most objects are read from a file, which
+/// has one for them.
 class CZelBasicData : public CZelEmptyBasicData {
 public:
-    const CZelUUID* getId() const override { return &parts().id; }
+    const CZelUUID* getId() const override;
     void setId(const CZelUUID* id) override;
     const char* getName() const override { return mParts ? mParts->name.c_str() : ""; }
     void setName(const char* name) override;
@@ -31,11 +32,14 @@ protected:
     ~CZelBasicData() = default;
 
 private:
+    using CUserData = std::map<CZelUUID, TZelComPtr<IUnknown>>;
+
     struct CParts {
         CZelUUID id;
-        std::string name;
-        std::map<CZelUUID, TZelComPtr<IUnknown>> userData;
+        bool hasId = false;
         std::uint32_t uiValue = 0;
+        std::string name;
+        std::unique_ptr<CUserData> userData;
     };
 
     CParts& parts() const;

@@ -3,7 +3,10 @@
 #include "xml/tree/CXMLElement.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <iterator>
+#include <memory_resource>
 #include <string>
 #include <string_view>
 
@@ -89,7 +92,7 @@ public:
         return false;
     }
     void close() { mBytes += kEnd; }
-    const std::string& bytes() const { return mBytes; }
+    std::string_view bytes() const { return mBytes; }
 
 private:
     void openElement(const CXMLElement& element)
@@ -123,7 +126,9 @@ private:
             mBytes.append(text).push_back('\0');
     }
 
-    std::string mBytes;
+    std::array<std::byte, 1024> mRoom; // more than most elements need
+    std::pmr::monotonic_buffer_resource mMemory{mRoom.data(), mRoom.size()};
+    std::pmr::string mBytes{&mMemory};
     std::size_t mNextKnown = 0;
 };
 
@@ -205,7 +210,7 @@ bool CPackedElement::pack(const XIXMLElement& element)
     // The nodes have no constant view.
     if (!packAll(packer, const_cast<CXMLElement&>(static_cast<const CXMLElement&>(element))))
         return false;
-    const std::string& bytes = packer.bytes();
+    const std::string_view bytes = packer.bytes();
     std::unique_ptr<char[]> exact(new char[bytes.size()]);
     std::copy(bytes.begin(), bytes.end(), exact.get());
     mBytes = std::move(exact);
