@@ -4,6 +4,7 @@
 #include "animation/CZelScenario.h"
 #include "core/TComObjectMgr.h"
 #include "core/TObject2Mgr.h"
+#include "core/TPooledMgr.h"
 #include "core/TSimpleMgr.h"
 #include "core/TZelCOMObjLinkRef.h"
 #include "core/TZelStrongPtr.h"
@@ -182,7 +183,7 @@ private:
     TZelComPtr<TObject2Mgr<CZelAnimation, IZelAnimation>> mAnimations;
     TZelComPtr<TComObjectMgr<CZelPanoramaV2, IZelPanoramaV2>> mPanoramas;
     TZelStrongPtr<CZelZelObjectDefinition> mRootDefinition;
-    TZelComPtr<TComObjectMgr<CZelObjectInstance, IZelObjectInstance>> mObjectInstances;
+    TZelComPtr<TPooledMgr<CZelObjectInstance, IZelObjectInstance>> mObjectInstances;
     TZelComPtr<TObject2Mgr<CProperty, IZelProperty>> mShaders;
     TZelComPtr<TObject2Mgr<CZelScenario, IZelScenario>> mScenarios;
     TZelComPtr<TComObjectMgr<CZel3DPath, IZel3DPath>> m3DPaths;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/CObjectPool.h"
 #include "core/TObject2Mgr.h"
 #include "materials/CProperty.h"
 #include "objects/CClassData.h"
@@ -16,7 +17,7 @@
 namespace OvZel {
 
 /// An instance: the fields that every class has, the private data and the delegate of the class.
-class CZelObjectInstance : public TZelXMLCOMObjLinkRef<IZelObjectInstance> {
+class CZelObjectInstance : public TZelXMLCOMObjLinkRef<IZelObjectInstance>, public CPooled {
 public:
     using CProperties = TObject2Mgr<CProperty, IZelProperty>;
     using XIXMLElement = OrvaneXML::XIXMLElement;
