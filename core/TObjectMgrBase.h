@@ -5,6 +5,7 @@
 #include "core/CZelBasicData.h"
 #include "core/CZelMgrRef.h"
 #include "core/TZelFrontier.h"
+#include "core/largePages.h"
 #include "core/query.h"
 
 #include <zel/TZelObjectMgr.h>
@@ -49,6 +50,13 @@ protected:
     {
         return static_cast<std::size_t>(static_cast<std::uint32_t>(index)) < count;
     }
+
+    // The buffer of a list of records.
+    static void* resizeRecords(void* records, std::size_t oldSize, std::size_t newSize) noexcept
+    {
+        return resizeBuffer(records, oldSize, newSize);
+    }
+    static void freeRecords(void* records, std::size_t size) noexcept { freeBuffer(records, size); }
 
 private:
     CSelfBlock<TObjectMgrBase> mSelf;

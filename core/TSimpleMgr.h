@@ -2,7 +2,6 @@
 
 #include "core/TObjectMgrBase.h"
 #include "core/elementId.h"
-#include "core/largePages.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,7 +11,7 @@
 namespace OvZel {
 
 /// A list of plain records in one flat buffer. A new record is all zero bytes. Base is what carries
-/// the count, the basic data and the owner.
+/// the count, the basic data and the owner, and where the buffer comes from.
 template <class T, class Base = TObjectMgrBase<T>>
 class TSimpleMgr : public Base {
     static_assert(std::is_trivially_copyable_v<T>, "records are moved as bytes");
@@ -23,7 +22,7 @@ public:
         if (capacity > 0)
             TSimpleMgr::reserve(capacity);
     }
-    ~TSimpleMgr() override { freeBuffer(mRecords, bufferSize()); }
+    ~TSimpleMgr() override { this->freeRecords(mRecords, bufferSize()); }
 
     const CZelUUID* getObjectIID() const override { return elementId<T>(); }
     std::int32_t getNbObjects() const override { return mCount; }
@@ -53,6 +52,15 @@ public:
     void releaseSpareRoom() noexcept;
     /// Copies records behind the last; false when memory runs out.
     bool append(const T* records, std::int32_t count);
+
+protected:
+    /// For a new list: a buffer to begin with.
+    void useRoom(T* room, std::int32_t capacity)
+    {
+        this->recordsStartInRoom();
+        mRecords = room;
+        mCapacity = capacity;
+    }
 
 private:
     bool grow();
@@ -102,9 +110,9 @@ bool TSimpleMgr<T, Base>::reserve(std::int32_t count)
     if (count == mCapacity)
         return true;
     const auto size = static_cast<std::size_t>(count) * sizeof(T);
-    void* records = count > 0 ? resizeBuffer(mRecords, bufferSize(), size) : nullptr;
+    void* records = count > 0 ? this->resizeRecords(mRecords, bufferSize(), size) : nullptr;
     if (records == nullptr)
-        freeBuffer(mRecords, bufferSize());
+        this->freeRecords(mRecords, bufferSize());
     mRecords = static_cast<T*>(records);
     mCapacity = count;
     if (records != nullptr || count == 0)
@@ -148,7 +156,7 @@ void TSimpleMgr<T, Base>::releaseSpareRoom() noexcept
     if (mCount == mCapacity)
         return;
     const auto size = static_cast<std::size_t>(mCount > 0 ? mCount : 1) * sizeof(T);
-    if (void* records = resizeBuffer(mRecords, bufferSize(), size)) {
+    if (void* records = this->resizeRecords(mRecords, bufferSize(), size)) {
         mRecords = static_cast<T*>(records);
         mCapacity = mCount > 0 ? mCount : 1;
     }

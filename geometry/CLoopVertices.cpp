@@ -39,7 +39,7 @@ CVertexMgr& CLoopVertices::make(std::int32_t count) const
     // A link has operations that change nothing, and the holder of a loop that is only looked at
     // is no less its owner.
     auto* owner = const_cast<IZelObjectLink*>(mOwner);
-    mSlot = CSlot(new CVertexMgr(owner, std::max(mCapacity, count)));
+    mSlot = CSlot(CVertexMgr::make(owner, std::max(mCapacity, count)));
     return *mSlot.get();
 }
 

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "core/TSimpleMgr.h"
 #include "core/TZelComPtr.h"
-#include "geometry/CVertexMgrBase.h"
+#include "geometry/CVertexMgr.h"
 
 #include <span>
 
 namespace OvZel {
-
-using CVertexMgr = TSimpleMgr<CZelVertex, CVertexMgrBase>;
 
 /// A view on the vertices of one loop, whose manager is made at the first vertex or when somebody
 /// asks for it. Lives no longer than the object that holds the loop.

@@ -27,7 +27,7 @@ bool appendRecords(CVertexMgr& to, TZelObjectMgr<CZelVertex>* from)
 CPolygon::~CPolygon()
 {
     vertices().loseOwner();
-    resetBlock();
+    end();
 }
 
 bool CPolygon::copy(IZelPolygon* other)
@@ -101,14 +101,15 @@ void CPolygon::clear()
     mMaterial = 0;
     vertices().clear();
     while (nbHoles() > 0)
-        mHoles->removeObject(-1);
+        holesIfAny()->removeObject(-1);
 }
 
 CPolygon::CHoles& CPolygon::holes()
 {
-    if (!mHoles)
-        mHoles = TZelComPtr<CHoles>(new CHoles(this));
-    return *mHoles;
+    TZelComPtr<CHoles>& slot = holesSlot();
+    if (!slot)
+        slot = TZelComPtr<CHoles>(new CHoles(this));
+    return *slot;
 }
 
 } // namespace OvZel

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "core/TObject2Mgr.h"
-#include "geometry/CLoop.h"
-#include "geometry/CLoopVertices.h"
 #include "geometry/CPolygonBase.h"
 #include "geometry/CPolygonMgr.h"
 
@@ -14,7 +11,7 @@ namespace OvZel {
 /// client they outlive the polygon.
 class CPolygon : public CPolygonBase {
 public:
-    using CHoles = TObject2Mgr<CLoop, IZelPolygon::IZelHole>;
+    using CPolygonBase::CHoles;
 
     explicit CPolygon(IZelObjectLinkRef* owner) : CPolygonBase(owner) {}
     ~CPolygon() override;
@@ -34,10 +31,14 @@ public:
     /// Back to the state of a new polygon, with the memory kept.
     void clear();
 
-    CLoopVertices vertices() const { return {mVertices, this, 3}; }
-    std::int32_t nbHoles() const { return mHoles ? mHoles.get()->size() : 0; }
+    CLoopVertices vertices() const { return {verticesSlot(), this, 3}; }
+    std::int32_t nbHoles() const
+    {
+        const CHoles* holes = holesIfAny();
+        return holes != nullptr ? holes->size() : 0;
+    }
     /// The index is good.
-    const CLoop& hole(std::int32_t index) const { return *mHoles.get()->at(index); }
+    const CLoop& hole(std::int32_t index) const { return *holesIfAny()->at(index); }
     CHoles& holes();
 
 private:
@@ -46,8 +47,6 @@ private:
 
     bool mSmooth = false;
     std::int32_t mMaterial = 0;
-    mutable CLoopVertices::CSlot mVertices;
-    TZelComPtr<CHoles> mHoles;
 };
 
 } // namespace OvZel

@@ -1,45 +1,68 @@
 #include "geometry/CPolygonBase.h"
 
+#include <memory>
+#include <utility>
+
 namespace OvZel {
 
 CPolygonBase::~CPolygonBase()
 {
-    resetBlock();
-    if (mBlock != nullptr)
-        mBlock->releaseWeakRef();
+    if (!mHasMore) {
+        std::destroy_at(&mVertices);
+        return;
+    }
+    TSharedPtr<CPolygonBase>* const block = mMore->block;
+    delete mMore;
+    if (block != nullptr)
+        block->releaseWeakRef();
 }
 
 IZelSharedPtrBase* CPolygonBase::getSelfWeakPtr() const
 {
-    if (mBlock == nullptr) {
-        mBlock = new TSharedPtr<CPolygonBase>(const_cast<CPolygonBase*>(this));
-        mBlock->addWeakRef();
+    TSharedPtr<CPolygonBase>*& block = more().block;
+    if (block == nullptr) {
+        block = new TSharedPtr<CPolygonBase>(const_cast<CPolygonBase*>(this));
+        block->addWeakRef();
         if (mIsHeld)
-            mBlock->addRef();
+            block->addRef();
     }
-    return mBlock;
+    return block;
 }
 
 void CPolygonBase::hold()
 {
     mIsHeld = true;
-    if (mBlock != nullptr)
-        mBlock->addRef();
+    if (block() != nullptr)
+        block()->addRef();
 }
 
 void CPolygonBase::letGo()
 {
     mIsHeld = false;
-    if (mBlock != nullptr)
-        mBlock->release();
+    if (block() != nullptr)
+        block()->release();
     else
         delete this;
 }
 
-void CPolygonBase::resetBlock()
+void CPolygonBase::end()
 {
-    if (mBlock != nullptr)
-        mBlock->resetPtr();
+    if (block() != nullptr)
+        block()->resetPtr();
+    if (mHasMore)
+        mMore->holes.reset();
+    verticesSlot().reset();
+}
+
+CPolygonBase::CMore& CPolygonBase::more() const
+{
+    if (!mHasMore) {
+        auto* const made = new CMore{std::move(mVertices), {}};
+        std::destroy_at(&mVertices);
+        mMore = made;
+        mHasMore = true;
+    }
+    return *mMore;
 }
 
 } // namespace OvZel

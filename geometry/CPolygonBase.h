@@ -1,8 +1,11 @@
 #pragma once
 
+#include "core/TObject2Mgr.h"
 #include "core/TSharedPtr.h"
 #include "core/TZelComPtr.h"
 #include "core/TZelFrontier.h"
+#include "geometry/CLoop.h"
+#include "geometry/CLoopVertices.h"
 
 #include <zel/IZelObjectLink.h>
 #include <zel/IZelObjectLinkRef.h>
@@ -13,7 +16,7 @@
 namespace OvZel {
 
 /// What TZelFrontierObjLinkRef is to other parts, for one of which there are a million: the control
-/// block is made when somebody asks for it.
+/// block is made when somebody asks for it, and what few polygons have stands apart.
 class CPolygonBase : public TZelFrontier<IZelPolygon>, public IZelObjectLink {
 public:
     virtual ~CPolygonBase();
@@ -32,15 +35,37 @@ public:
     void letGo();
 
 protected:
-    /// The owner may be null.
-    explicit CPolygonBase(IZelObjectLinkRef* owner) : mOwner(owner) {}
+    using CHoles = TObject2Mgr<CLoop, IZelPolygon::IZelHole>;
 
-    /// For the beginning of the destructor: no weak pointer sees a dead object.
-    void resetBlock();
+    /// The owner may be null.
+    explicit CPolygonBase(IZelObjectLinkRef* owner) : mOwner(owner), mVertices() {}
+
+    CLoopVertices::CSlot& verticesSlot() const { return mHasMore ? mMore->vertices : mVertices; }
+    /// Null when there have been none.
+    CHoles* holesIfAny() const { return mHasMore ? mMore->holes.get() : nullptr; }
+    TZelComPtr<CHoles>& holesSlot() { return more().holes; }
+
+    /// For the beginning of the destructor: no weak pointer sees a dead object, and none sees the
+    /// loops go.
+    void end();
 
 private:
-    mutable TSharedPtr<CPolygonBase>* mBlock = nullptr;
+    struct CMore {
+        CLoopVertices::CSlot vertices;
+        TZelComPtr<CHoles> holes;
+        TSharedPtr<CPolygonBase>* block = nullptr;
+    };
+
+    TSharedPtr<CPolygonBase>* block() const { return mHasMore ? mMore->block : nullptr; }
+    CMore& more() const;
+
     TZelComPtr<IZelObjectLinkRef> mOwner;
+    // Made when somebody asks for what is in it, which nobody can see.
+    union {
+        mutable CLoopVertices::CSlot mVertices;
+        mutable CMore* mMore;
+    };
+    mutable bool mHasMore = false;
     bool mIsHeld = false;
 };
 

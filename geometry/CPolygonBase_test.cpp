@@ -56,3 +56,21 @@ TEST(PolygonBase, AWeakCountKeepsTheBlockAlone)
         block->releaseWeakRef();
     }
 }
+
+TEST(PolygonBase, LoopsStayTheSameWhenTheRestIsMade)
+{
+    const CMesh mesh(new CPolygonMgr(nullptr));
+    CPolygon* polygon = mesh->append();
+    TZelObjectMgr<CZelVertex>* const vertices = polygon->getVertices();
+    vertices->newZelObject(-1)->pointIndex = 7;
+    CZelVertex* const vertex = vertices->getZelObject(0);
+    EXPECT_EQ(polygon->nbHoles(), 0);
+    IZelSharedPtrBase* const block = polygon->getSelfWeakPtr();
+    TZelObjectMgr<IZelPolygon::IZelHole>* const holes = polygon->getHoles();
+    ASSERT_NE(holes->newZelObject(-1), nullptr);
+    EXPECT_EQ(polygon->getVertices(), vertices);
+    EXPECT_EQ(polygon->getVertices()->getZelObject(0), vertex);
+    EXPECT_EQ(polygon->getSelfWeakPtr(), block);
+    EXPECT_EQ(polygon->getHoles(), holes);
+    EXPECT_EQ(polygon->nbHoles(), 1);
+}

@@ -2,10 +2,13 @@
 
 #include "core/CZelMgrRef.h"
 #include "core/changeCount.h"
+#include "core/largePages.h"
 #include "core/query.h"
 
+#include <cstring>
 #include <exception>
 #include <memory>
+#include <utility>
 
 namespace OvZel {
 
@@ -71,6 +74,27 @@ void CVertexMgrBase::warning(const char* text) const
 {
     if (CZelMgrRef* target = getWarningTarget())
         target->warning(text);
+}
+
+void* CVertexMgrBase::resizeRecords(void* records, std::size_t oldSize,
+                                    std::size_t newSize) noexcept
+{
+    if (!mAreInRoom)
+        return resizeBuffer(records, oldSize, newSize);
+    if (newSize <= oldSize)
+        return records;
+    void* const moved = resizeBuffer(nullptr, 0, newSize);
+    if (moved == nullptr)
+        return nullptr;
+    std::memcpy(moved, records, oldSize);
+    mAreInRoom = false;
+    return moved;
+}
+
+void CVertexMgrBase::freeRecords(void* records, std::size_t size) noexcept
+{
+    if (!std::exchange(mAreInRoom, false))
+        freeBuffer(records, size);
 }
 
 CVertexMgrBase::CLinks& CVertexMgrBase::links() const

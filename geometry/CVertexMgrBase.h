@@ -47,6 +47,11 @@ protected:
         return static_cast<std::size_t>(static_cast<std::uint32_t>(index)) < count;
     }
 
+    // The buffer of the records. They may start in room that belongs to the list and goes with it.
+    void recordsStartInRoom() { mAreInRoom = true; }
+    void* resizeRecords(void* records, std::size_t oldSize, std::size_t newSize) noexcept;
+    void freeRecords(void* records, std::size_t size) noexcept;
+
 private:
     struct CLinks {
         CLinks(CVertexMgrBase* manager, IZelObjectLink* owner)
@@ -67,6 +72,7 @@ private:
     };
     std::atomic<std::uint32_t> mHolders{0};
     mutable bool mHasLinks = false;
+    bool mAreInRoom = false;
 };
 
 } // namespace OvZel
