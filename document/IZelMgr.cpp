@@ -47,9 +47,9 @@ struct CHead {
         try {
             if (startsWithMarkup(stream, start)) {
                 CZELXMLReadStream source(&stream, CZELXMLReadStream::kHead);
-                file.Parse(&source);
+                file.ParseHead(&source);
                 stream.setPosition(start);
-                creator.Parse(&source);
+                creator.ParseHead(&source);
             }
         } catch (...) {
             // What was found up to here counts.

@@ -218,6 +218,24 @@ TEST(CheckFormat, AStreamThatBreaksGivesTheFailureValue)
     EXPECT_FALSE(IZelMgr::checkFormat2(nullptr, nullptr, nullptr, nullptr, 0));
 }
 
+TEST(CheckFormat, AnElementEndsTheSearchAtItsName)
+{
+    const std::string blanks(100'000, ' ');
+    for (const std::string& text :
+         {"<Zel.File>" + blanks + "</Zel.File>", "<a b=\"" + blanks + "\"/>", "<a" + blanks + "/>",
+          "<?xml version=\"1.0\"?>\n<a>" + blanks + "<b/></a>"}) {
+        CMemoryReadStream stream(text);
+        stream.failsAt = 12 * 1024;
+        stream.failure = [](void*, std::uint32_t) -> std::uint32_t {
+            ADD_FAILURE() << "reads on";
+            return 0;
+        };
+        auto value = IZelMgr::eTooNew;
+        EXPECT_FALSE(IZelMgr::checkFormat2(&stream, &value, nullptr, nullptr, 0));
+        EXPECT_EQ(value, IZelMgr::eUnknown);
+    }
+}
+
 TEST(CheckFormat, NothingBehindTheInstructionsIsRead)
 {
     CMemoryReadStream stream(std::string(ZelTest::kFormat) +

@@ -16,6 +16,25 @@ bool CXMLParser::FastParse(XIXMLReadStream* stream)
     return Run(*stream, false);
 }
 
+bool CXMLParser::ParseHead(XIXMLReadStream* stream)
+{
+    using EToken = CXMLScanner::EToken;
+    CXMLScanner scanner(*stream);
+    scanner.StopAtRoot();
+    StartDocument();
+    for (;;) {
+        const EToken token = scanner.Next();
+        if (token == EToken::StartTag) {
+            StartElement(scanner.Name().data());
+            return true;
+        }
+        if (token == EToken::Comment)
+            Comment(scanner.Text().data());
+        else if (!Instruction(scanner.Name().data(), scanner.Text().data()))
+            return false;
+    }
+}
+
 void* CXMLParser::Start(const CXMLScanner& scanner)
 {
     void* token = StartElement(scanner.Name().data());

@@ -19,6 +19,9 @@ public:
     bool Parse(XIXMLReadStream* stream);
     /// The same, but CDATA sections are skipped without a call of CData.
     bool FastParse(XIXMLReadStream* stream);
+    /// The same for what stands ahead of the root element. Of that StartElement gets the name, and
+    /// nothing behind the name is read or checked.
+    bool ParseHead(XIXMLReadStream* stream);
 
 protected:
     CXMLParser() = default;

@@ -76,6 +76,26 @@ TEST(XmlParser, FastParseSkipsSections)
     EXPECT_EQ(log.log, "start;?xml|version='1.0';<a;@x=1;@y=<;<b;>2;' t&u ;!c;<c;>3;>1;?end|;");
 }
 
+TEST(XmlParser, TheHeadEndsWithTheNameOfTheRoot)
+{
+    for (const std::string behind : {" x='1'><b/></a>", "/>", ">text</c>", " <", "\t&"}) {
+        CLog log;
+        CXMLTextSource source("\n<?xml 1?><!--c--><!DOCTYPE a> <?Zel 2?><a" + behind);
+        EXPECT_TRUE(log.ParseHead(&source));
+        EXPECT_EQ(log.log, "start;?xml|1;!c;?Zel|2;<a;") << behind;
+    }
+    CLog stopped;
+    stopped.stopAt = "Zel";
+    CXMLTextSource stopping("<?Zel 2?><");
+    EXPECT_FALSE(stopped.ParseHead(&stopping));
+    for (const char* text :
+         {"", "<?a b?>", "<?a b?>text<a/>", "<a", "<", "</a>", "<![CDATA[a]]>"}) {
+        CLog log;
+        CXMLTextSource source(text);
+        EXPECT_NE(messageOf([&] { log.ParseHead(&source); }), "") << text;
+    }
+}
+
 TEST(XmlParser, GoesOnBehindWhatTheHookLeft)
 {
     CLog log;

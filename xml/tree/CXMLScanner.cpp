@@ -133,7 +133,7 @@ CXMLScanner::EToken CXMLScanner::Markup()
             return Section();
         Fail("unknown markup");
     default:
-        return StartTag();
+        return mStopsAtRoot ? RootName() : StartTag();
     }
 }
 
@@ -253,6 +253,11 @@ char* CXMLScanner::ScanStartTag()
     return nullptr;
 }
 
+char* CXMLScanner::ScanRootName()
+{
+    return ScanName(At(1), mName, nullptr);
+}
+
 /// Behind the end tag if only a plain text stands in front of that, and it is here; else `p`.
 char* CXMLScanner::PastLeaf(char* p)
 {
@@ -321,6 +326,13 @@ CXMLScanner::EToken CXMLScanner::StartTag()
     Terminate(mText);
     BehindChild();
     return EToken::Leaf;
+}
+
+CXMLScanner::EToken CXMLScanner::RootName()
+{
+    Whole<&CXMLScanner::ScanRootName>();
+    Terminate(mName);
+    return EToken::StartTag;
 }
 
 void CXMLScanner::CheckElement()

@@ -29,6 +29,9 @@ public:
     {
     }
 
+    /// From here on the start tag of the root element has its name alone, and is the last token:
+    /// what stands behind the name is not looked at.
+    void StopAtRoot() { mStopsAtRoot = true; }
     EToken Next();
 
     /// The name of a start tag or leaf, or the target of an instruction. All texts here are
@@ -70,6 +73,7 @@ private:
     EToken Markup();
     EToken AtEnd();
     EToken StartTag();
+    EToken RootName();
     EToken EndTag();
     EToken TextToken();
     EToken Comment();
@@ -83,6 +87,7 @@ private:
     template <char* (CXMLScanner::*Scan)()>
     void Whole();
     char* ScanStartTag();
+    char* ScanRootName();
     char* PastLeaf(char* p);
     char* ScanAttribute(char* p, const SXMLName* guess);
     char* ScanValue(char* p, char quote, bool& isPlain);
@@ -112,6 +117,7 @@ private:
     bool mIsBehindTag = false;   // nothing followed the last tag so far
     bool mIsBehindChild = false; // and that was an end tag
     bool mIsRootSeen = false;
+    bool mStopsAtRoot = false;
     bool mIsLeaf = false; // the start tag and all up to the end tag
     bool mIsInSection = false;
     bool mIsCovered = false; // the "<" at mPosition, by the NUL of the text in front of it
