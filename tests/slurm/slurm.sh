@@ -80,17 +80,17 @@ CONF
 # The node dies: its daemon, what that started for each job, and the jobs. The daemons go first, as
 # one that outlives its job tells that the job has failed, and a failed job does not come back.
 kill_node() {
-    local job pid daemons=("$node") victims=()
+    local job pid parent daemons=() victims=()
     for job in $(squeue -h -r -t R -o %A); do
         for pid in $(scontrol listpids "$job" | awk 'NR > 1 { print $1 }'); do
             victims+=("$pid")
-            # The parent of the script is the daemon of the job.
-            grep -qz slurm_script "/proc/$pid/cmdline" &&
-                daemons+=("$(awk '/^PPid/ { print $2 }' "/proc/$pid/status")")
+            parent=$(awk '/^PPid/ { print $2 }' "/proc/$pid/status")
+            [[ $(< "/proc/$parent/comm") != slurmstepd ]] || daemons+=("$parent")
         done
-    done
-    [[ ${#daemons[@]} == 3 ]] || { echo "FAILED: not both jobs are found"; exit 1; }
-    kill -KILL "${daemons[@]}" "${victims[@]}" 2> /dev/null || true # some may have ended by now
+    done 2> /dev/null # a process may have ended by now
+    mapfile -t daemons < <(printf '%s\n' "${daemons[@]}" | sort -u)
+    [[ ${#daemons[@]} == 2 ]] || { echo "FAILED: not both jobs are found"; exit 1; }
+    kill -KILL "$node" "${daemons[@]}" "${victims[@]}" 2> /dev/null || true
     { wait "$node" || true; } 2> /dev/null
     # As a health check does; the silence of the node would tell in some 30 s.
     scontrol update "nodename=$host" state=down reason=dead
