@@ -53,6 +53,7 @@ int takeStandardOutput()
 
 void dropStandardOutput()
 {
+    std::fflush(stdout); // what was written before gets where it should
     const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
     if (nowhere < 0)
         return;

@@ -135,6 +135,7 @@ int takeStandardOutput()
 
 void dropStandardOutput()
 {
+    std::fflush(stdout); // what was written before gets where it should
     const int nowhere = _open("NUL", _O_WRONLY | _O_BINARY | _O_NOINHERIT);
     if (nowhere < 0)
         return;

@@ -46,10 +46,11 @@ CTracedTool::CTracedTool(const std::vector<std::string>& arguments)
 bool CTracedTool::goToNextStop()
 {
     for (int signal = 0, status = 0;;) {
-        if (ptrace(PTRACE_SYSCALL, mProcess, nullptr, signal) != 0 ||
-            waitpid(mProcess, &status, 0) < 0 || !WIFSTOPPED(status)) {
+        const bool isThere = ptrace(PTRACE_SYSCALL, mProcess, nullptr, signal) == 0 &&
+                             waitpid(mProcess, &status, 0) == mProcess;
+        if (!isThere || !WIFSTOPPED(status)) {
             mProcess = -1;
-            if (WIFEXITED(status))
+            if (isThere && WIFEXITED(status))
                 mExitCode = WEXITSTATUS(status);
             return false;
         }
@@ -62,7 +63,8 @@ bool CTracedTool::goToNextStop()
 
 void CTracedTool::send(int signal)
 {
-    kill(mProcess, signal);
+    if (mProcess > 0)
+        kill(mProcess, signal);
 }
 
 void CTracedTool::end()
