@@ -6,119 +6,158 @@
 #include <atomic>
 #include <new>
 #include <utility>
-#include <vector>
+
+#if defined(__SANITIZE_ADDRESS__)
+#define ZEL_SANITIZES_ADDRESSES
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ZEL_SANITIZES_ADDRESSES
+#endif
+#endif
+
+#ifdef ZEL_SANITIZES_ADDRESSES
+extern "C" void __asan_poison_memory_region(const volatile void* begin, std::size_t size);
+extern "C" void __asan_unpoison_memory_region(const volatile void* begin, std::size_t size);
+#endif
 
 namespace OvZel {
 
+namespace {
+
+constexpr std::size_t kFirstBlock = std::size_t{4} << 10;
+constexpr std::size_t kMaxBlock = std::size_t{16} << 20;
+
+// The address sanitizer finds who still looks at an object that has gone.
+void forbid([[maybe_unused]] void* begin, [[maybe_unused]] std::size_t size)
+{
+#ifdef ZEL_SANITIZES_ADDRESSES
+    __asan_poison_memory_region(begin, size);
+#endif
+}
+
+void allow([[maybe_unused]] void* begin, [[maybe_unused]] std::size_t size)
+{
+#ifdef ZEL_SANITIZES_ADDRESSES
+    __asan_unpoison_memory_region(begin, size);
+#endif
+}
+
+} // namespace
+
 /// What stands in front of an object, and what lies in its place once it has gone.
-struct CObjectPool::SRoom {
-    CBlocks* blocks; // null for an object alone
-    SRoom* next;     // where the object is, while there is one
+struct alignas(8) CObjectPool::SRoom {
+    SBlock* block; // null for an object alone
+    union {
+        SRoom* next;
+        alignas(8) char object[8];
+    };
 
-    static constexpr std::size_t kHead = sizeof(CBlocks*);
+    static constexpr std::size_t kHead = 8;
 
-    void* object() { return reinterpret_cast<char*>(this) + kHead; }
     static SRoom* of(void* object)
     {
+        static_assert(offsetof(SRoom, object) == kHead);
         return reinterpret_cast<SRoom*>(static_cast<char*>(object) - kHead);
     }
 };
 
-/// The memory of a pool. The pool uses it, and so does each object.
-class CObjectPool::CBlocks {
-public:
-    explicit CBlocks(std::size_t size) : mRoomSize(std::max(SRoom::kHead + size, sizeof(SRoom))) {}
-    ~CBlocks()
-    {
-        for (void* block : mBlocks)
-            ::operator delete(block);
-    }
+/// Rooms follow. The pool uses a block until it lets go, and so does each object.
+struct alignas(8) CObjectPool::SBlock {
+    std::size_t roomSize;
+    std::atomic<std::size_t> nbUsers{1};
+    std::atomic<SRoom*> returned{nullptr};
 
-    SRoom* take()
+    /// Only the thread that takes takes out, and all at once, so that nothing can come back between
+    /// two steps that looks like what was there.
+    void giveBack(SRoom* room) noexcept
     {
-        if (mFree == nullptr)
-            mFree = mReturned.exchange(nullptr, std::memory_order_acquire);
-        SRoom* room = mFree;
-        if (room != nullptr)
-            mFree = room->next;
-        else
-            room = takeNew();
-        room->blocks = this;
-        mNbUsers.fetch_add(1, std::memory_order_relaxed);
-        return room;
-    }
-    /// Only the thread that takes takes out, and all at once, so that nothing can come back
-    /// between the two steps that looks like what was there.
-    void giveBack(SRoom* room)
-    {
-        room->next = mReturned.load(std::memory_order_relaxed);
-        while (!mReturned.compare_exchange_weak(room->next, room, std::memory_order_release,
-                                                std::memory_order_relaxed))
+        forbid(room + 1, roomSize - sizeof(SRoom));
+        room->next = returned.load(std::memory_order_relaxed);
+        while (!returned.compare_exchange_weak(room->next, room, std::memory_order_release,
+                                               std::memory_order_relaxed))
             ;
         leave();
     }
-    void leave()
+    void leave() noexcept
     {
-        if (mNbUsers.fetch_sub(1, std::memory_order_acq_rel) == 1)
-            delete this;
+        if (nbUsers.fetch_sub(1, std::memory_order_acq_rel) != 1)
+            return;
+        this->~SBlock();
+        ::operator delete(this);
     }
-
-private:
-    static constexpr std::size_t kFirstBlock = std::size_t{4} << 10;
-    static constexpr std::size_t kMaxBlock = std::size_t{16} << 20;
-
-    SRoom* takeNew()
-    {
-        if (mLeft < mRoomSize) {
-            const std::size_t size = std::max(mBlockSize, mRoomSize);
-            mBlocks.reserve(mBlocks.size() + 1);
-            mNext = static_cast<char*>(::operator new(size));
-            adviseLargePages(mNext, size);
-            mBlocks.push_back(mNext);
-            mLeft = size;
-            mBlockSize = std::min(mBlockSize * 2, kMaxBlock);
-        }
-        mLeft -= mRoomSize;
-        return new (std::exchange(mNext, mNext + mRoomSize)) SRoom;
-    }
-
-    const std::size_t mRoomSize;
-    std::vector<void*> mBlocks;
-    std::size_t mBlockSize = kFirstBlock;
-    char* mNext = nullptr; // in the last block
-    std::size_t mLeft = 0;
-    SRoom* mFree = nullptr;
-    std::atomic<SRoom*> mReturned{nullptr};
-    std::atomic<std::size_t> mNbUsers{1};
 };
 
-CObjectPool::~CObjectPool()
+CObjectPool::CObjectPool(std::size_t size)
+    : mRoomSize((SRoom::kHead + std::max<std::size_t>(size, 8) + 7) & ~std::size_t{7}),
+      mBlockSize(kFirstBlock)
 {
-    if (mBlocks != nullptr)
-        mBlocks->leave();
 }
 
-void* CObjectPool::take()
+void* CObjectPool::take(std::size_t size)
 {
-    if (mBlocks == nullptr)
-        mBlocks = new CBlocks((mSize + 7) & ~std::size_t{7});
-    return mBlocks->take()->object();
+    if (SRoom::kHead + size > mRoomSize)
+        return takeAlone(size);
+    if (mFree == nullptr)
+        mFree = takeReturned();
+    SRoom* room = mFree;
+    if (room != nullptr)
+        mFree = room->next;
+    else
+        room = takeNew();
+    allow(room, mRoomSize);
+    room->block->nbUsers.fetch_add(1, std::memory_order_relaxed);
+    return room->object;
+}
+
+CObjectPool::SRoom* CObjectPool::takeReturned() noexcept
+{
+    for (SBlock* block : mBlocks)
+        if (SRoom* room = block->returned.exchange(nullptr, std::memory_order_acquire))
+            return room;
+    return nullptr;
+}
+
+CObjectPool::SRoom* CObjectPool::takeNew()
+{
+    if (mLeft < mRoomSize) {
+        const std::size_t size = std::max(mBlockSize, sizeof(SBlock) + mRoomSize);
+        mBlocks.reserve(mBlocks.size() + 1);
+        void* const memory = ::operator new(size);
+        adviseLargePages(memory, size);
+        mBlocks.push_back(new (memory) SBlock{mRoomSize});
+        mNext = static_cast<char*>(memory) + sizeof(SBlock);
+        mLeft = size - sizeof(SBlock);
+        mBlockSize = std::min(mBlockSize * 2, kMaxBlock);
+    }
+    mLeft -= mRoomSize;
+    auto* const room = new (std::exchange(mNext, mNext + mRoomSize)) SRoom;
+    room->block = mBlocks.back();
+    return room;
 }
 
 void* CObjectPool::takeAlone(std::size_t size)
 {
-    auto* room = static_cast<SRoom*>(::operator new(std::max(SRoom::kHead + size, sizeof(SRoom))));
-    room->blocks = nullptr;
-    return room->object();
+    auto* const room = new (::operator new(SRoom::kHead + std::max<std::size_t>(size, 8))) SRoom;
+    room->block = nullptr;
+    return room->object;
 }
 
 void CObjectPool::giveBack(void* object) noexcept
 {
     SRoom* const room = SRoom::of(object);
-    if (room->blocks != nullptr)
-        room->blocks->giveBack(room);
+    if (room->block != nullptr)
+        room->block->giveBack(room);
     else
         ::operator delete(room);
+}
+
+void CObjectPool::letGo() noexcept
+{
+    for (SBlock* block : std::exchange(mBlocks, {}))
+        block->leave();
+    mBlockSize = kFirstBlock;
+    mLeft = 0;
+    mFree = nullptr;
 }
 
 } // namespace OvZel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 namespace OvZel {
 
@@ -8,38 +9,47 @@ namespace OvZel {
 /// in large pages, and the heap has no work with each.
 ///
 /// One thread at a time takes room. It may be given back on any thread, since any may let go of an
-/// object last, and after the pool is gone. The memory goes back to the system behind the pool and
-/// the last object; until then the room of an object that has gone is for a later one.
+/// object last, and after the pool is gone. The room of an object that has gone is for a later one;
+/// a block that the pool has let go of goes back to the system with its last object.
 class CObjectPool {
 public:
     /// For objects of that size, of which the pool has none at first.
-    explicit CObjectPool(std::size_t size) : mSize(size) {}
-    ~CObjectPool();
+    explicit CObjectPool(std::size_t size);
+    ~CObjectPool() { letGo(); }
     CObjectPool(const CObjectPool&) = delete;
     CObjectPool& operator=(const CObjectPool&) = delete;
 
-    /// Raises when memory runs out. Aligned to 8.
-    void* take();
+    /// Aligned to 8. A larger object than the pool is for has room alone. Raises when memory runs
+    /// out.
+    void* take(std::size_t size);
     /// The same from the heap, for an object that is in no list.
     static void* takeAlone(std::size_t size);
-    static void giveBack(void* room) noexcept;
+    static void giveBack(void* object) noexcept;
+    /// Lets go of all blocks, and begins anew with the next object.
+    void letGo() noexcept;
 
 private:
     struct SRoom;
-    class CBlocks;
+    struct SBlock;
 
-    std::size_t mSize;
-    CBlocks* mBlocks = nullptr; // until the last that uses them is gone
+    SRoom* takeReturned() noexcept;
+    SRoom* takeNew();
+
+    const std::size_t mRoomSize;
+    std::vector<SBlock*> mBlocks;
+    std::size_t mBlockSize;
+    char* mNext = nullptr; // in the last block
+    std::size_t mLeft = 0;
+    SRoom* mFree = nullptr;
 };
 
 /// The base of a class whose objects may lie in a pool: new (pool) C(..), or new C(..) alone.
 class CPooled {
 public:
     static void* operator new(std::size_t size) { return CObjectPool::takeAlone(size); }
-    /// The pool is for objects of that very class.
-    static void* operator new(std::size_t, CObjectPool& pool) { return pool.take(); }
-    static void operator delete(void* room) { CObjectPool::giveBack(room); }
-    static void operator delete(void* room, CObjectPool&) { CObjectPool::giveBack(room); }
+    static void* operator new(std::size_t size, CObjectPool& pool) { return pool.take(size); }
+    static void operator delete(void* object) { CObjectPool::giveBack(object); }
+    static void operator delete(void* object, CObjectPool&) { CObjectPool::giveBack(object); }
 
 protected:
     ~CPooled() = default;

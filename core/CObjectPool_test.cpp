@@ -1,5 +1,7 @@
 #include "core/CObjectPool.h"
 
+#include "tests/support/peakMemory.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -34,7 +36,7 @@ TEST(ObjectPool, GivesEachObjectRoomOfItsOwn)
     CObjectPool pool(kSize);
     std::vector<char*> rooms;
     for (int i = 0; i < 10'000; ++i) {
-        rooms.push_back(static_cast<char*>(pool.take()));
+        rooms.push_back(static_cast<char*>(pool.take(kSize)));
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(rooms.back()) % 8, 0U);
         std::memset(rooms.back(), i % 128, kSize);
     }
@@ -51,7 +53,7 @@ TEST(ObjectPool, UsesRoomAgain)
     for (int round = 0; round < 3; ++round) {
         std::set<void*> rooms;
         for (int i = 0; i < 1000; ++i)
-            rooms.insert(pool.take());
+            rooms.insert(pool.take(kSize));
         for (void* room : rooms)
             CObjectPool::giveBack(room);
         if (round == 0)
@@ -63,12 +65,55 @@ TEST(ObjectPool, UsesRoomAgain)
 TEST(ObjectPool, HasRoomForWhatIsSmallerThanItsOwnNotes)
 {
     CObjectPool pool(1);
-    void* const a = pool.take();
-    void* const b = pool.take();
+    void* const a = pool.take(1);
+    void* const b = pool.take(1);
     EXPECT_NE(a, b);
     CObjectPool::giveBack(a);
     CObjectPool::giveBack(b);
     CObjectPool::giveBack(CObjectPool::takeAlone(1));
+}
+
+TEST(ObjectPool, WhatIsTooLargeForItHasRoomAlone)
+{
+    CObjectPool pool(kSize);
+    auto* const large = static_cast<char*>(pool.take(2 * kSize));
+    auto* const behind = static_cast<char*>(pool.take(kSize));
+    std::memset(behind, 1, kSize);
+    std::memset(large, 2, 2 * kSize);
+    EXPECT_EQ(std::count(behind, behind + kSize, 1), kSize);
+    CObjectPool::giveBack(large);
+    CObjectPool::giveBack(behind);
+}
+
+TEST(ObjectPool, BeginsAnewWhenItHasLetGo)
+{
+    CObjectPool pool(sizeof(CThing));
+    for (int round = 0; round < 3; ++round) {
+        std::vector<std::unique_ptr<CThing>> things;
+        for (int i = 0; i < 1000; ++i)
+            things.emplace_back(new (pool) CThing(i));
+        pool.letGo();
+        things.emplace_back(new (pool) CThing(1000));
+        for (int i = 0; i <= 1000; ++i)
+            EXPECT_EQ(things[static_cast<std::size_t>(i)]->value, i);
+    }
+}
+
+TEST(ObjectPool, GivesMemoryBackWithTheLastObjectOfABlock)
+{
+    if (!ZelTest::canMeterMemory())
+        GTEST_SKIP() << "this allocator keeps what is freed";
+    constexpr std::size_t kCount = 10'000, kMegabyte = 1'000'000;
+    std::vector<std::unique_ptr<CThing>> things(kCount);
+    const std::size_t before = ZelTest::heapInUse();
+    CObjectPool pool(sizeof(CThing));
+    for (auto& thing : things)
+        thing.reset(new (pool) CThing(1));
+    EXPECT_GT(ZelTest::heapInUse() - before, kMegabyte);
+    pool.letGo();
+    const std::unique_ptr<CThing> kept = std::move(things.front());
+    things.clear();
+    EXPECT_LT(ZelTest::heapInUse() - before, kMegabyte / 100);
 }
 
 TEST(ObjectPool, ItsObjectsOutliveIt)
@@ -90,7 +135,7 @@ TEST(ObjectPool, AnObjectMayBeAlone)
 TEST(ObjectPool, RoomOfAnObjectThatCannotBeMadeIsUsedAgain)
 {
     CObjectPool pool(sizeof(CThing));
-    void* const room = pool.take();
+    void* const room = pool.take(sizeof(CThing));
     CObjectPool::giveBack(room);
     EXPECT_THROW(new (pool) CThing(-1), int);
     EXPECT_THROW(new CThing(-1), int);

@@ -13,6 +13,12 @@ class TPooledMgr final : public TComObjectMgr<C, I> {
 public:
     using TComObjectMgr<C, I>::TComObjectMgr;
 
+    void removeAllObjects() override
+    {
+        TComObjectMgr<C, I>::removeAllObjects();
+        mPool.letGo();
+    }
+
 protected:
     TZelComPtr<C> make() override { return TZelComPtr<C>(new (mPool) C(this->getBase())); }
 

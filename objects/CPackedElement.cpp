@@ -3,10 +3,7 @@
 #include "xml/tree/CXMLElement.h"
 
 #include <algorithm>
-#include <array>
-#include <cstddef>
 #include <iterator>
-#include <memory_resource>
 #include <string>
 #include <string_view>
 
@@ -69,6 +66,8 @@ static_assert(kNbKnown < 128);
 
 class CPacker {
 public:
+    CPacker() { mBytes.reserve(250); } // more than most elements need
+
     /// False if the node cannot be packed. An element stays open.
     bool put(CXMLNode& node)
     {
@@ -126,9 +125,7 @@ private:
             mBytes.append(text).push_back('\0');
     }
 
-    std::array<std::byte, 1024> mRoom; // more than most elements need
-    std::pmr::monotonic_buffer_resource mMemory{mRoom.data(), mRoom.size()};
-    std::pmr::string mBytes{&mMemory};
+    std::string mBytes;
     std::size_t mNextKnown = 0;
 };
 

@@ -1,6 +1,6 @@
 #include "objects/CZelObjectInstance.h"
 
-#include "core/TComObjectMgr.h"
+#include "core/TPooledMgr.h"
 #include "tests/support/CTestDocument.h"
 #include "tests/support/accessors.h"
 #include "tests/support/messageOf.h"
@@ -319,7 +319,7 @@ TEST(ObjectInstance, AnElementOfAClientStaysWhileTheDelegateSaves)
 TEST(ObjectInstance, AnswersToItsManager)
 {
     CTestDocument document;
-    const TZelComPtr mgr(new TComObjectMgr<CZelObjectInstance, IZelObjectInstance>(document.ref()));
+    const TZelComPtr mgr(new TPooledMgr<CZelObjectInstance, IZelObjectInstance>(document.ref()));
     IZelObjectInstance* instance = mgr->newZelObject(-1);
     ASSERT_NE(instance, nullptr);
     EXPECT_EQ(*mgr->getObjectIID(), IZelObjectInstance::sIID);

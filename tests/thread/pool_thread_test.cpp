@@ -21,7 +21,7 @@ TEST(PoolThread, RoomComesBackFromAnyThread)
         for (int round = 0; round < kNbRounds; ++round) {
             std::vector<int*> rooms;
             for (int i = 0; i < kNbRooms; ++i) {
-                rooms.push_back(static_cast<int*>(pool.take()));
+                rooms.push_back(static_cast<int*>(pool.take(2 * sizeof(int))));
                 rooms.back()[0] = round;
                 rooms.back()[1] = i;
             }
@@ -39,7 +39,7 @@ TEST(PoolThread, RoomComesBackFromAnyThread)
         }
         last.join();
         EXPECT_FALSE(isChanged);
-        last = std::thread([room = pool.take()] { CObjectPool::giveBack(room); });
+        last = std::thread([room = pool.take(2 * sizeof(int))] { CObjectPool::giveBack(room); });
     }
     last.join();
     // Room is taken while as much is on its way back, and none is lost.
