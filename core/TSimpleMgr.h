@@ -2,6 +2,7 @@
 
 #include "core/TObjectMgrBase.h"
 #include "core/elementId.h"
+#include "core/largePages.h"
 
 #include <algorithm>
 #include <cstring>

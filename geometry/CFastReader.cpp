@@ -10,9 +10,9 @@
 #include <cstdint>
 #include <stdexcept>
 
-// A number depends on the one in front of it by its place alone. That place stays in a register,
-// from number to number, only where all of these become one function; handed on through memory it
-// is what a mesh waits for.
+// Most functions here are inlined: a number depends on the one in front of it by its place alone,
+// which stays in a register, from number to number, only where all of them become one function;
+// handed on through memory it is what a mesh waits for.
 
 namespace OvZel {
 

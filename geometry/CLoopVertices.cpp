@@ -39,8 +39,15 @@ CVertexMgr& CLoopVertices::make(std::int32_t count) const
     // A link has operations that change nothing, and the holder of a loop that is only looked at
     // is no less its owner.
     auto* owner = const_cast<IZelObjectLink*>(mOwner);
-    mSlot = CSlot(CVertexMgr::make(owner, std::max(mCapacity, count)));
-    return *mSlot.get();
+    const std::int32_t capacity = std::max(mCapacity, count);
+    // A loop that is made vertex by vertex would soon leave the room behind the list.
+    CVertexMgr* const made = CVertexMgr::make(owner, count > 0 ? capacity : 0);
+    mSlot = CSlot(made);
+    // Last, since a failure is told to the client, who may then do anything with the holder, and
+    // the slot may be elsewhere behind that.
+    if (made->capacity() < capacity)
+        made->reserve(capacity);
+    return *made;
 }
 
 } // namespace OvZel

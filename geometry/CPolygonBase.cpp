@@ -13,8 +13,11 @@ CPolygonBase::~CPolygonBase()
     }
     TSharedPtr<CPolygonBase>* const block = mMore->block;
     delete mMore;
-    if (block != nullptr)
-        block->releaseWeakRef();
+    if (block == nullptr)
+        return;
+    // Once more, since it may have been made by client code that saw the loops go.
+    block->resetPtr();
+    block->releaseWeakRef();
 }
 
 IZelSharedPtrBase* CPolygonBase::getSelfWeakPtr() const

@@ -60,7 +60,7 @@ private:
     CMore& more() const;
 
     TZelComPtr<IZelObjectLinkRef> mOwner;
-    // Made when somebody asks for what is in it, which nobody can see.
+    // The vertices move into the rest when that is made, which nobody can see.
     union {
         mutable CLoopVertices::CSlot mVertices;
         mutable CMore* mMore;

@@ -12,6 +12,27 @@ namespace {
 
 using CMesh = TZelComPtr<CPolygonMgr>;
 
+/// Client data of a loop that asks for the polygon's control block when the loop goes.
+class CLastLook : public IUnknown {
+public:
+    std::int32_t QueryInterface(const CZelUUID&, void**) override { return kQueryNoInterface; }
+    std::uint32_t AddRef() override { return ++mNbReferences; }
+    std::uint32_t Release() override
+    {
+        if (--mNbReferences == 0 && block == nullptr) {
+            block = polygon->getSelfWeakPtr();
+            block->addWeakRef();
+        }
+        return mNbReferences;
+    }
+
+    CPolygon* polygon = nullptr;
+    IZelSharedPtrBase* block = nullptr;
+
+private:
+    std::uint32_t mNbReferences = 0;
+};
+
 } // namespace
 
 TEST(PolygonBase, LinksToTheListAndTheDocument)
@@ -73,4 +94,19 @@ TEST(PolygonBase, LoopsStayTheSameWhenTheRestIsMade)
     EXPECT_EQ(polygon->getSelfWeakPtr(), block);
     EXPECT_EQ(polygon->getHoles(), holes);
     EXPECT_EQ(polygon->nbHoles(), 1);
+}
+
+TEST(PolygonBase, ABlockThatIsMadeWhileThePolygonGoesKnowsNoObject)
+{
+    const CMesh mesh(new CPolygonMgr(nullptr));
+    CLastLook look;
+    look.polygon = mesh->append();
+    const CZelUUID key("0123456789ABCDEF0123456789ABCDEF");
+    look.polygon->getVertices()->getBasicData()->setUserData(&key, &look);
+    mesh->removeObject(0);
+    ASSERT_NE(look.block, nullptr);
+    EXPECT_FALSE(CZelSharedPtrObject::from(look.block)->isAlive());
+    look.block->addRef();
+    look.block->release();
+    look.block->releaseWeakRef();
 }

@@ -1,6 +1,5 @@
 #include "geometry/CVertexMgr.h"
 
-#include <memory>
 #include <new>
 
 namespace OvZel {
@@ -15,9 +14,7 @@ CVertexMgr* CVertexMgr::make(IZelObjectLink* owner, std::int32_t capacity)
         const CRoom room{capacity};
         return new (room) CVertexMgr(owner, room);
     }
-    auto list = std::make_unique<CVertexMgr>(owner);
-    list->reserve(capacity);
-    return list.release();
+    return new CVertexMgr(owner);
 }
 
 CVertexMgr::CVertexMgr(IZelObjectLink* owner, CRoom room) : TSimpleMgr(owner)

@@ -13,7 +13,7 @@ class CVertexMgr final : public TSimpleMgr<CZelVertex, CVertexMgrBase> {
 public:
     /// Without room. The owner may be null; until it calls loseOwner it outlives this.
     explicit CVertexMgr(IZelObjectLink* owner) : TSimpleMgr(owner) {}
-    /// On the heap, with room for so many.
+    /// On the heap, with room for so many, but without any if they are too many to stand there.
     static CVertexMgr* make(IZelObjectLink* owner, std::int32_t capacity);
 
     static void* operator new(std::size_t size) { return ::operator new(size); }

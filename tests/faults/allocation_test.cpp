@@ -45,6 +45,18 @@ std::string nameOf(const testing::TestParamInfo<Allocation::ParamType>& item)
 
 } // namespace
 
+/// Looks at a polygon whenever it hears of something.
+class CLookingFeedback : public ZelTest::CQuietFeedback {
+public:
+    void message(OvZel::IZelMgr*, const char*) override
+    {
+        ++nbMessages;
+        polygon->getHoles();
+    }
+
+    OvZel::IZelPolygon* polygon = nullptr;
+};
+
 TEST_P(Allocation, FailsInTurn)
 {
     const auto& [operation, mode] = GetParam();
@@ -62,3 +74,28 @@ INSTANTIATE_TEST_SUITE_P(Every, Allocation,
                                           testing::Values(CAllocations::eOnce,
                                                           CAllocations::eOnward)),
                          nameOf);
+
+TEST(AllocationOfALoop, FailsWhileTheClientLooksAtThePolygon)
+{
+    constexpr std::int32_t kCount = 100;
+    CLookingFeedback feedback;
+    OvZel::IZelMgr* document = nullptr;
+    OvZel::IZelMgr::newZelMgr(&document, OvZel::eVersionZel, &feedback);
+    auto* const polygons = document->getPolygons();
+    OvZel::IZelPolygon* const source = polygons->newZelObject(-1);
+    for (std::int32_t i = 0; i < kCount; ++i)
+        source->getVertices()->newZelObject(-1)->pointIndex = i;
+    for (std::int64_t number = 1, nbFailed = 1; nbFailed > 0; ++number) {
+        feedback.polygon = polygons->newZelObject(-1);
+        CAllocations::arm(number, CAllocations::eOnce);
+        const bool isCopied = feedback.polygon->copy(source);
+        CAllocations::disarm();
+        nbFailed = CAllocations::nbFailed();
+        const std::int32_t count = feedback.polygon->getVertices()->getNbObjects();
+        EXPECT_EQ(count, isCopied ? kCount : 0) << number;
+        EXPECT_TRUE(isCopied || nbFailed > 0) << number;
+        polygons->removeObject(-1);
+    }
+    EXPECT_GT(feedback.nbMessages, 0);
+    document->Release();
+}
