@@ -3,6 +3,7 @@
 #include "tools/interrupt.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <io.h>
