@@ -40,7 +40,7 @@ TEST(ObjectPool, GivesEachObjectRoomOfItsOwn)
         EXPECT_EQ(reinterpret_cast<std::uintptr_t>(rooms.back()) % 8, 0U);
         std::memset(rooms.back(), i % 128, kSize);
     }
-    for (int i = 0; i < 10'000; ++i)
+    for (std::size_t i = 0; i < rooms.size(); ++i)
         EXPECT_EQ(std::count(rooms[i], rooms[i] + kSize, i % 128), kSize);
     for (char* room : rooms)
         CObjectPool::giveBack(room);
