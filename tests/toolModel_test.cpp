@@ -3,6 +3,7 @@
 #include "tests/colladaModel.h"
 #include "tests/modelDigest.h"
 #include "tests/support/CClientDocument.h"
+#include "tests/support/CTimeZone.h"
 #include "tests/toolRun.h"
 
 #include <zel/IZelMgr.h>
@@ -283,6 +284,7 @@ TEST_F(ToolModel, AnUnchangedModelGivesTheSameDocument)
         for (const bool isFlat : {false, true}) {
             load(original, isFlat);
             const std::string first = contents(mFile);
+            const ZelTest::CTimeZone elsewhen("<+05>-5"); // where it is another hour
             load(copy, isFlat);
             EXPECT_TRUE(contents(mFile) == first) << original << (isFlat ? " --flat" : "");
         }

@@ -80,6 +80,16 @@ static CZelUUID idOfModel(const std::string& model, const char* kind)
     return id;
 }
 
+// Noon of midsummer. A model has no time, and a new document that of its making.
+static void setTime(OvZel::IZelTime& time)
+{
+    time.setMonth(6);
+    time.setDay(21);
+    time.setHour(12);
+    time.setMinute(0);
+    time.setYear(2004);
+}
+
 // What a new document has from the start.
 static void identify(OvZel::IZelMgr& document, const CZelUUID& id)
 {
@@ -89,6 +99,7 @@ static void identify(OvZel::IZelMgr& document, const CZelUUID& id)
     forEach(*document.getHeliodons(), [](OvZel::IZelHeliodon& heliodon, std::int32_t index) {
         const CZelUUID heliodonId = stableId("heliodon", {}, "", static_cast<std::uint64_t>(index));
         heliodon.getBasicData()->setId(&heliodonId);
+        setTime(*heliodon.getTime());
     });
 }
 
