@@ -179,9 +179,13 @@ const CCase kCases[] = {
     {"7FF", [](IZelMgr&, IZelMgr& source) { firstScenario(source); }, ""},
 };
 
+/// A file without a sun gets one that stands as it does when the file is loaded, which may be in
+/// another minute for each of the two.
 std::string differences(const std::string& before, const std::string& after)
 {
-    const std::string told = runTool({"diff", before, after}).output;
+    const std::string told =
+        std::regex_replace(runTool({"diff", before, after}).output,
+                           std::regex("changed heliodons\\[Heliodon\\]/Time/[^\n]*\n"), "");
     return std::regex_replace(told, std::regex("[0-9A-F]{32}"), "ID");
 }
 
