@@ -54,6 +54,10 @@ struct alignas(8) CObjectPool::SRoom {
 
     static constexpr std::size_t kHead = 8;
 
+    static std::size_t sizeFor(std::size_t objectSize)
+    {
+        return (kHead + std::max(objectSize, sizeof object) + 7) & ~std::size_t{7};
+    }
     static SRoom* of(void* object)
     {
         static_assert(offsetof(SRoom, object) == kHead);
@@ -88,8 +92,7 @@ struct alignas(8) CObjectPool::SBlock {
 };
 
 CObjectPool::CObjectPool(std::size_t size)
-    : mRoomSize((SRoom::kHead + std::max<std::size_t>(size, 8) + 7) & ~std::size_t{7}),
-      mBlockSize(kFirstBlock)
+    : mRoomSize(SRoom::sizeFor(size)), mBlockSize(kFirstBlock)
 {
 }
 
@@ -111,9 +114,10 @@ void* CObjectPool::take(std::size_t size)
 
 CObjectPool::SRoom* CObjectPool::takeReturned() noexcept
 {
+    // Mostly there is none, and to see that takes no exchange.
     for (SBlock* block : mBlocks)
-        if (SRoom* room = block->returned.exchange(nullptr, std::memory_order_acquire))
-            return room;
+        if (block->returned.load(std::memory_order_relaxed) != nullptr)
+            return block->returned.exchange(nullptr, std::memory_order_acquire);
     return nullptr;
 }
 
@@ -137,7 +141,7 @@ CObjectPool::SRoom* CObjectPool::takeNew()
 
 void* CObjectPool::takeAlone(std::size_t size)
 {
-    auto* const room = new (::operator new(SRoom::kHead + std::max<std::size_t>(size, 8))) SRoom;
+    auto* const room = new (::operator new(SRoom::sizeFor(size))) SRoom;
     room->block = nullptr;
     return room->object;
 }

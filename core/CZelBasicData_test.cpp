@@ -58,6 +58,15 @@ TEST(BasicData, KeepsItsIdentifier)
     EXPECT_EQ(*data.getId(), kFirst);
 }
 
+TEST(BasicData, ANullIdentifierStaysNull)
+{
+    CData data;
+    data.setId(nullptr); // before there was another
+    data.setName("name");
+    EXPECT_TRUE(data.getId()->isNull());
+    EXPECT_EQ(CData().getId()->isNull(), false);
+}
+
 TEST(BasicData, HasANameThatCanBeEmptied)
 {
     CData data;

@@ -25,7 +25,8 @@ std::string fileName(const std::filesystem::path& path);
 
 /// A duplicate of standard output; the descriptor itself leads to standard error from here on.
 int takeStandardOutput();
-/// What is written to the descriptor of standard output from here on leads nowhere.
+/// What is written to the descriptor of standard output from here on leads nowhere; what was
+/// printed before gets where it led.
 void dropStandardOutput();
 /// Opens a file that must not exist yet, with the permissions of another file if that exists.
 int createFile(const std::string& path, const std::string& permissionsOf);
