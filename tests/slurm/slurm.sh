@@ -84,13 +84,14 @@ kill_node() {
     for job in $(squeue -h -r -t R -o %A); do
         for pid in $(scontrol listpids "$job" | awk 'NR > 1 { print $1 }'); do
             victims+=("$pid")
-            parent=$(awk '/^PPid/ { print $2 }' "/proc/$pid/status")
+            parent=$(awk '/^PPid/ { print $2 }' "/proc/$pid/status") || continue
             [[ $(< "/proc/$parent/comm") != slurmstepd ]] || daemons+=("$parent")
         done
     done 2> /dev/null # a process may have ended by now
     mapfile -t daemons < <(printf '%s\n' "${daemons[@]}" | sort -u)
     [[ ${#daemons[@]} == 2 ]] || { echo "FAILED: not both jobs are found"; exit 1; }
-    kill -KILL "$node" "${daemons[@]}" "${victims[@]}" 2> /dev/null || true
+    kill -KILL "$node" "${daemons[@]}"
+    kill -KILL "${victims[@]}" 2> /dev/null || true # some may have ended by now
     { wait "$node" || true; } 2> /dev/null
     # As a health check does; the silence of the node would tell in some 30 s.
     scontrol update "nodename=$host" state=down reason=dead
