@@ -1,10 +1,26 @@
 #include "bench/CRow.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <memory>
+#include <sys/mman.h>
 
 namespace ZelBench {
+
+void warmMemory()
+{
+    constexpr std::size_t kSize = std::size_t{256} << 20;
+    if (isSmall())
+        return;
+    void* const area =
+        mmap(nullptr, kSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (area == MAP_FAILED)
+        return;
+    madvise(area, kSize, MADV_HUGEPAGE);
+    std::memset(area, 1, kSize);
+    munmap(area, kSize);
+}
 
 static void measure(benchmark::State& state, SPair& pair, SPair (*make)())
 {

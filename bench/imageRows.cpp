@@ -44,6 +44,7 @@ double secondsOfPython(const std::string& path, const char* direction)
 {
     const std::string command =
         std::string("python3 '" ZEL_BENCH_SOURCE "/hex_anchor.py' '") + path + "' " + direction;
+    warmMemory();
     FILE* const answer = popen(command.c_str(), "r");
     double seconds = 0.0;
     const bool isRead = answer != nullptr && std::fscanf(answer, "%lf", &seconds) == 1;

@@ -1,5 +1,6 @@
 #include "xml/hexWords.h"
 
+#include "core/inlined.h"
 #include "xml/hexWord.h"
 
 #if defined(__SSE2__) || defined(_M_X64)
@@ -35,7 +36,7 @@ __m128i digitsOf(__m128i values)
 }
 
 /// One value in the low byte of each pair of digits; what is no digit leaves bits in `bad`.
-__m128i decodePairs(const char* digits, __m128i& bad)
+ZEL_INLINED __m128i decodePairs(const char* digits, __m128i& bad)
 {
     const __m128i text = load(digits);
     const __m128i isLetter = _mm_and_si128(_mm_srli_epi16(text, 6), _mm_set1_epi8(1));
