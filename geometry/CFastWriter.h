@@ -67,7 +67,7 @@ public:
     void flush();
 
 private:
-    static constexpr std::size_t kSize = 64 * 1024;
+    static constexpr std::size_t kSize = 256 * 1024;
 
     static char* putReal(char* out, double value);
     static char* putOrdinary(char* out, double value);

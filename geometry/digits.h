@@ -1,34 +1,43 @@
 #pragma once
 
+#include "core/inlined.h"
+#include "xml/tree/lanes.h"
+
 #include <array>
 #include <cstdint>
 #include <cstring>
 
 namespace OvZel {
 
-/// "00" to "99", one behind the other.
-inline constexpr std::array<char, 200> kDigitPairs = [] {
-    std::array<char, 200> pairs{};
-    for (unsigned i = 0; i < 100; ++i) {
-        pairs[2 * i] = static_cast<char>('0' + i / 10);
-        pairs[2 * i + 1] = static_cast<char>('0' + i % 10);
-    }
+// The text of a number here has its first digit in the lowest byte.
+
+/// "00" to "99".
+inline constexpr std::array<std::uint16_t, 100> kDigitPairs = [] {
+    std::array<std::uint16_t, 100> pairs{};
+    for (unsigned i = 0; i < 100; ++i)
+        pairs[i] = static_cast<std::uint16_t>(('0' + i / 10) | ('0' + i % 10) << 8);
     return pairs;
 }();
+
+/// "0000" to "9999".
+extern const std::array<std::uint32_t, 10'000> kDigitFours;
 
 // These write behind `out` and return the end of what they wrote.
 
 /// The two digits of a number below 100.
 inline char* putPair(char* out, std::uint32_t value)
 {
-    std::memcpy(out, &kDigitPairs[2 * value], 2);
-    return out + 2;
+    const std::uint16_t text = OrvaneXML::littleEndian(kDigitPairs[value]);
+    std::memcpy(out, &text, sizeof text);
+    return out + sizeof text;
 }
 
 /// The four digits of a number below 10,000.
 inline char* putFour(char* out, std::uint32_t value)
 {
-    return putPair(putPair(out, value / 100), value % 100);
+    const std::uint32_t text = OrvaneXML::littleEndian(kDigitFours[value]);
+    std::memcpy(out, &text, sizeof text);
+    return out + sizeof text;
 }
 
 /// A number below 10,000 without leading zeros.
@@ -46,7 +55,7 @@ inline char* putUpToFour(char* out, std::uint32_t value)
     return out + 1;
 }
 
-inline char* putUnsigned(char* out, std::uint32_t value)
+ZEL_INLINED char* putUnsigned(char* out, std::uint32_t value)
 {
     if (value < 10'000)
         return putUpToFour(out, value);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <bit>
+#include "xml/tree/lanes.h"
+
 #include <cstdint>
 #include <cstring>
 
@@ -11,29 +12,15 @@ namespace OvZel {
 
 namespace HexLanes {
 
-/// A number whose first byte in memory is the lowest, as the machine's own, and back.
-template <class T>
-constexpr T littleEndian(T value)
-{
-    if constexpr (std::endian::native == std::endian::little)
-        return value;
-    T turned = 0;
-    for (unsigned i = 0; i < sizeof(T); ++i)
-        turned = static_cast<T>(turned << 8 | (value >> 8 * i & 0xFF));
-    return turned;
-}
-
-constexpr std::uint64_t each(std::uint64_t byte)
-{
-    return byte * 0x0101010101010101;
-}
+using OrvaneXML::eachLane;
+using OrvaneXML::littleEndian;
 
 /// The digits of lanes that hold 0 to 15; larger ones up to 24 give no digit or themselves a bad
 /// one.
 constexpr std::uint64_t digitsOf(std::uint64_t values)
 {
-    const std::uint64_t letters = (values + each(6)) >> 4 & each(1);
-    return values + each('0') + letters * ('A' - '0' - 10);
+    const std::uint64_t letters = (values + eachLane(6)) >> 4 & eachLane(1);
+    return values + eachLane('0') + letters * ('A' - '0' - 10);
 }
 
 } // namespace HexLanes
@@ -45,8 +32,8 @@ inline std::uint64_t decodeHexWord(const char* digits, std::uint8_t* bytes)
     std::uint64_t text;
     std::memcpy(&text, digits, sizeof text);
     text = littleEndian(text);
-    const std::uint64_t values = (text & each(0x0F)) + (text >> 6 & each(1)) * 9;
-    const std::uint64_t bad = (digitsOf(values) ^ text) | (values & each(0xF0));
+    const std::uint64_t values = (text & eachLane(0x0F)) + (text >> 6 & eachLane(1)) * 9;
+    const std::uint64_t bad = (digitsOf(values) ^ text) | (values & eachLane(0xF0));
     std::uint64_t packed = (values << 4 | values >> 8) & 0x00FF00FF00FF00FF;
     packed = (packed | packed >> 8) & 0x0000FFFF0000FFFF;
     packed |= packed >> 16;

@@ -25,17 +25,24 @@ constexpr std::uint64_t lanesOf(std::uint64_t lanes, char c)
     return lanesBelow(lanes ^ eachLane(static_cast<unsigned char>(c)), 1);
 }
 
+/// A number whose first byte in memory is the lowest, as the machine's own, and back.
+template <class T>
+constexpr T littleEndian(T value)
+{
+    if constexpr (std::endian::native == std::endian::little)
+        return value;
+    T turned = 0;
+    for (unsigned i = 0; i < sizeof(T); ++i)
+        turned = static_cast<T>(turned << 8 | (value >> 8 * i & 0xFF));
+    return turned;
+}
+
 /// The first character in the lowest lane.
 inline std::uint64_t lanesAt(const char* text)
 {
     std::uint64_t lanes;
     std::memcpy(&lanes, text, sizeof lanes);
-    if constexpr (std::endian::native == std::endian::little)
-        return lanes;
-    std::uint64_t turned = 0;
-    for (int i = 0; i < 8; ++i)
-        turned = turned << 8 | (lanes >> 8 * i & 0xFF);
-    return turned;
+    return littleEndian(lanes);
 }
 
 /// The place of the first lane that passed; at least one did.
