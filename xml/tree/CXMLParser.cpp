@@ -47,6 +47,8 @@ bool CXMLParser::Run(XIXMLReadStream& stream, bool withCData)
 {
     using EToken = CXMLScanner::EToken;
     CXMLScanner scanner(stream);
+    if (!withCData)
+        scanner.TellNoLines();
     std::vector<void*> tokens;
     StartDocument();
     for (;;) {

@@ -17,9 +17,10 @@ public:
     /// Reads to the end of the stream. False if Instruction stopped the parse; a syntax error
     /// throws std::runtime_error with its line. Reads ahead by up to 64 KiB.
     bool Parse(XIXMLReadStream* stream);
-    /// The same, but CDATA sections are skipped without a call of CData.
+    /// The same, but CDATA sections are skipped without a call of CData, and a syntax error doesn't
+    /// tell its line.
     bool FastParse(XIXMLReadStream* stream);
-    /// The same for what stands ahead of the root element. Of that StartElement gets the name, and
+    /// Parse for what stands ahead of the root element. Of that StartElement gets the name, and
     /// nothing behind the name is read or checked.
     bool ParseHead(XIXMLReadStream* stream);
 

@@ -76,6 +76,15 @@ TEST(XmlParser, FastParseSkipsSections)
     EXPECT_EQ(log.log, "start;?xml|version='1.0';<a;@x=1;@y=<;<b;>2;' t&u ;!c;<c;>3;>1;?end|;");
 }
 
+TEST(XmlParser, OnlyFastParseTellsNoLine)
+{
+    CLog log;
+    CXMLTextSource source("<a>\n<![CDATA[\n]]>\n</b>"), same("<a>\n<![CDATA[\n]]>\n</b>");
+    EXPECT_EQ(messageOf([&] { log.Parse(&source); }),
+              "XML syntax error in line 4: end tag does not match");
+    EXPECT_EQ(messageOf([&] { log.FastParse(&same); }), "XML syntax error: end tag does not match");
+}
+
 TEST(XmlParser, TheHeadEndsWithTheNameOfTheRoot)
 {
     for (const std::string behind : {" x='1'><b/></a>", "/>", ">text</c>", " <", "\t&"}) {

@@ -29,6 +29,7 @@ public:
     {
     }
 
+    using CXMLWindow::TellNoLines;
     /// From here on the start tag of the root element has its name alone, and is the last token:
     /// what stands behind the name is not looked at.
     void StopAtRoot() { mStopsAtRoot = true; }

@@ -72,7 +72,8 @@ bool CXMLWindow::More()
     const std::size_t nb = mStream.Read(mBuffer.get() + mEnd, static_cast<std::uint32_t>(room));
     if (nb > room)
         throw std::runtime_error("The stream of an XML document delivered more than was asked for");
-    mNbLineEnds += countLineEnds(mBuffer.get() + mEnd, mBuffer.get() + mEnd + nb);
+    if (mTellsLines)
+        mNbLineEnds += countLineEnds(mBuffer.get() + mEnd, mBuffer.get() + mEnd + nb);
     mEnd += nb;
     PutEnd();
     mIsAtEnd = nb == 0;
@@ -93,8 +94,12 @@ void CXMLWindow::Fail(const char* what, std::size_t upTo)
 {
     // What stands in front may be decoded by now, what follows is as it came.
     const char* buffer = mBuffer.get();
-    const std::size_t line = 1 + mNbLineEnds - countLineEnds(buffer + upTo, buffer + mEnd);
-    throw std::runtime_error("XML syntax error in line " + std::to_string(line) + ": " + what);
+    std::string place;
+    if (mTellsLines) {
+        const std::size_t line = 1 + mNbLineEnds - countLineEnds(buffer + upTo, buffer + mEnd);
+        place = " in line " + std::to_string(line);
+    }
+    throw std::runtime_error("XML syntax error" + place + ": " + what);
 }
 
 } // namespace OrvaneXML

@@ -80,6 +80,9 @@ public:
 
     void SkipWhite() { SkipWhile(isWhite); }
 
+    /// To be called ahead of all others. To count the lines takes longer than to skip a section.
+    void TellNoLines() { mTellsLines = false; }
+
     /// Throws std::runtime_error with the line of the place, behind which nothing was changed yet.
     [[noreturn]] void Fail(const char* what, std::size_t upTo);
     [[noreturn]] void Fail(const char* what) { Fail(what, mPosition); }
@@ -111,7 +114,8 @@ private:
     XIXMLReadStream& mStream;
     std::size_t mCapacity;
     bool mIsAtEnd = false;
-    std::size_t mNbLineEnds = 0; // in all that was read
+    bool mTellsLines = true;
+    std::size_t mNbLineEnds = 0; // in all that was read, if lines are told
 };
 
 } // namespace OrvaneXML
