@@ -142,6 +142,8 @@ private:
     void makeFreshTree();
     void layOutFixedElements();
     OrvaneXML::XIXMLElement* insertBehind(OrvaneXML::XIXMLElement* before, const char* tag);
+    OrvaneXML::XIXMLElement* addSection(const char* tag);
+    void destroyLater(OrvaneXML::XIXMLElement* section);
     OrvaneXML::XIXMLElement* renewSection(const char* tag);
     void destroySections(const char* tag);
     OrvaneXML::XIXMLElement* fileNode();
@@ -158,6 +160,8 @@ private:
 
     // CZELWrite.cpp
     bool writeDocument(IZelWriteStream& stream);
+    template <class Mgr>
+    void renewItems(CZelXMLIO& io, const char* tag, OrvaneXML::CXMLTag itemTag, const Mgr& list);
     void writeImages();
     void writeSections(CZelXMLIO& io);
     void writeFileInfo();

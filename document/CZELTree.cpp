@@ -121,7 +121,8 @@ void CZEL::destroySections(const char* tag)
     }
 }
 
-XIXMLElement* CZEL::renewSection(const char* tag)
+/// An empty section in front of those of that name.
+XIXMLElement* CZEL::addSection(const char* tag)
 {
     XIXMLElement* file = fileNode();
     const OrvaneXML::XCXMLKey key = file->MakeKey(tag);
@@ -129,11 +130,23 @@ XIXMLElement* CZEL::renewSection(const char* tag)
     XIXMLElement* made = file->AddElement(key);
     if (old != nullptr)
         file->InsertChild(made->GetNode(), old->GetNode());
-    for (XIXMLElement* other = made->GetNextSame(); other != nullptr;) {
+    return made;
+}
+
+/// Destroys the sections of the same name behind this one.
+void CZEL::destroyLater(XIXMLElement* section)
+{
+    for (XIXMLElement* other = section->GetNextSame(); other != nullptr;) {
         XIXMLElement* next = other->GetNextSame();
         other->Destroy();
         other = next;
     }
+}
+
+XIXMLElement* CZEL::renewSection(const char* tag)
+{
+    XIXMLElement* made = addSection(tag);
+    destroyLater(made);
     return made;
 }
 

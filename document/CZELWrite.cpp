@@ -99,6 +99,21 @@ void CZEL::writeImages()
     }
 }
 
+/// Each item takes the place in memory of one that goes, which the processor has just seen.
+template <class Mgr>
+void CZEL::renewItems(CZelXMLIO& io, const char* tag, OrvaneXML::CXMLTag itemTag, const Mgr& list)
+{
+    XIXMLElement* section = addSection(tag);
+    XIXMLElement* old = section->GetNextSame();
+    const CZelXMLAdd out(section);
+    for (std::int32_t i = 0; i < list.size(); ++i) {
+        if (OrvaneXML::XIXMLData* gone = old != nullptr ? old->GetFirstNode() : nullptr)
+            gone->Destroy();
+        list.at(i)->addTo(io, CZelXMLAdd(out.AddElement(itemTag)));
+    }
+    destroyLater(section);
+}
+
 void CZEL::writeSections(CZelXMLIO& io)
 {
     for (const char* legacy :
@@ -106,26 +121,26 @@ void CZEL::writeSections(CZelXMLIO& io)
         destroySections(legacy);
     writeFileInfo();
     writeDefinitions(io);
-    addItems(io, renewSection("Heliodons"), "Heliodon", *mHeliodons);
-    addItems(io, renewSection("Properties"), "Property", *mProperties);
-    addItems(io, renewSection("Billboards"), "Billboard", *mBillboards);
-    addItems(io, renewSection("Lights"), "Light", *mLights);
-    addItems(io, renewSection("Lights.Groups"), "Lights.Group", *mLightsGroups);
-    addItems(io, renewSection("Perspective.Views"), "Perspective.View", *mCameras);
-    addItems(io, renewSection("Parallel.Views"), "Parallel.View", *mParallelViews);
-    addItems(io, renewSection("PanoramasV2"), "PanoramaV2", *mPanoramas);
-    addItems(io, renewSection("Animations"), "Animation", *mAnimations);
-    addItems(io, renewSection("View.Objects"), "View.Object", *mViewObjects);
+    renewItems(io, "Heliodons", "Heliodon", *mHeliodons);
+    renewItems(io, "Properties", "Property", *mProperties);
+    renewItems(io, "Billboards", "Billboard", *mBillboards);
+    renewItems(io, "Lights", "Light", *mLights);
+    renewItems(io, "Lights.Groups", "Lights.Group", *mLightsGroups);
+    renewItems(io, "Perspective.Views", "Perspective.View", *mCameras);
+    renewItems(io, "Parallel.Views", "Parallel.View", *mParallelViews);
+    renewItems(io, "PanoramasV2", "PanoramaV2", *mPanoramas);
+    renewItems(io, "Animations", "Animation", *mAnimations);
+    renewItems(io, "View.Objects", "View.Object", *mViewObjects);
     mRootDefinition->addTo(io, CZelXMLAdd(renewSection("Object.Definition")));
-    addItems(io, renewSection("Object.Instances"), "Object.Instance", *mObjectInstances);
-    addItems(io, renewSection("Scenarios"), "Scenario", *mScenarios);
-    addItems(io, renewSection("Paths.3D"), "Path.3D", *m3DPaths);
-    addItems(io, renewSection("Grounds"), "Ground", *mGrounds);
-    addItems(io, renewSection("Layers"), "Layer", *mLayers);
+    renewItems(io, "Object.Instances", "Object.Instance", *mObjectInstances);
+    renewItems(io, "Scenarios", "Scenario", *mScenarios);
+    renewItems(io, "Paths.3D", "Path.3D", *m3DPaths);
+    renewItems(io, "Grounds", "Ground", *mGrounds);
+    renewItems(io, "Layers", "Layer", *mLayers);
     mLayerInfo->addTo(io, CZelXMLAdd(renewSection("Layers.Info")));
     addRenderParameters(mRenderParameters, CZelXMLAdd(renewSection("Tmp.Render.Parameters")));
     destroySections("Current.Id");
-    addItems(io, renewSection("ExternalDefinitions"), "External.Definition", *mExternalDefinitions);
+    renewItems(io, "ExternalDefinitions", "External.Definition", *mExternalDefinitions);
     writeWorkingWindow(io);
 }
 
