@@ -2,11 +2,7 @@
 
 #include "core/inlined.h"
 #include "xml/hexWord.h"
-
-#if defined(__SSE2__) || defined(_M_X64)
-#include <emmintrin.h>
-#define ZEL_HAS_SSE2
-#endif
+#include "xml/tree/sse2.h"
 
 namespace OvZel {
 
@@ -18,15 +14,8 @@ namespace {
 
 constexpr std::size_t kAtATime = 4;
 
-__m128i load(const void* from)
-{
-    return _mm_loadu_si128(static_cast<const __m128i*>(from));
-}
-
-void store(void* to, __m128i bytes)
-{
-    _mm_storeu_si128(static_cast<__m128i*>(to), bytes);
-}
+using OrvaneXML::loadBytes;
+using OrvaneXML::storeBytes;
 
 __m128i digitsOf(__m128i values)
 {
@@ -38,7 +27,7 @@ __m128i digitsOf(__m128i values)
 /// One value in the low byte of each pair of digits; what is no digit leaves bits in `bad`.
 ZEL_INLINED __m128i decodePairs(const char* digits, __m128i& bad)
 {
-    const __m128i text = load(digits);
+    const __m128i text = loadBytes(digits);
     const __m128i isLetter = _mm_and_si128(_mm_srli_epi16(text, 6), _mm_set1_epi8(1));
     const __m128i nine = _mm_add_epi8(_mm_slli_epi16(isLetter, 3), isLetter);
     const __m128i values = _mm_add_epi8(_mm_and_si128(text, _mm_set1_epi8(0x0F)), nine);
@@ -55,7 +44,7 @@ std::size_t decodeWide(const char* digits, std::uint8_t* bytes, std::size_t nb, 
     for (; done + kAtATime <= nb; done += kAtATime) {
         const __m128i low = decodePairs(digits + done * 8, badLanes);
         const __m128i high = decodePairs(digits + done * 8 + 16, badLanes);
-        store(bytes + done * 4, _mm_packus_epi16(low, high));
+        storeBytes(bytes + done * 4, _mm_packus_epi16(low, high));
     }
     const int good = _mm_movemask_epi8(_mm_cmpeq_epi8(badLanes, _mm_setzero_si128()));
     bad |= static_cast<std::uint64_t>(good != 0xFFFF);
@@ -67,11 +56,11 @@ std::size_t encodeWide(const std::uint8_t* bytes, char* digits, std::size_t nb)
     const __m128i lowHalves = _mm_set1_epi8(0x0F);
     std::size_t done = 0;
     for (; done + kAtATime <= nb; done += kAtATime) {
-        const __m128i both = load(bytes + done * 4);
+        const __m128i both = loadBytes(bytes + done * 4);
         const __m128i high = _mm_and_si128(_mm_srli_epi16(both, 4), lowHalves);
         const __m128i low = _mm_and_si128(both, lowHalves);
-        store(digits + done * 8, digitsOf(_mm_unpacklo_epi8(high, low)));
-        store(digits + done * 8 + 16, digitsOf(_mm_unpackhi_epi8(high, low)));
+        storeBytes(digits + done * 8, digitsOf(_mm_unpacklo_epi8(high, low)));
+        storeBytes(digits + done * 8 + 16, digitsOf(_mm_unpackhi_epi8(high, low)));
     }
     return done;
 }

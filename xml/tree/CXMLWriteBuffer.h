@@ -1,6 +1,6 @@
 #pragma once
 
-#include "xml/tree/lanes.h"
+#include "xml/tree/copyPlain.h"
 #include "xml/tree/shortBytes.h"
 
 #include <zel/xml/XIXMLWriteStream.h>
@@ -50,20 +50,17 @@ public:
         ((CopyPiece(out, pieces), out += pieces.size()), ...);
         mFilled = static_cast<std::size_t>(out - mBuffer.get());
     }
-    /// Puts what `text` has in front of the first character whose lane passes, and returns where
-    /// that stands. There is one, and seven bytes can be read behind it.
-    template <class TTest>
-    const char* PutUpTo(const char* text, TTest test)
+    /// Puts the plain characters that `text` begins with, and returns where the first other one
+    /// stands, which may be the NUL at its end. 15 bytes can be read behind that.
+    const char* PutPlain(const char* text)
     {
         for (;;) {
-            if (kSize - mFilled < 8)
+            if (kSize - mFilled < kPlainAtATime)
                 Flush();
-            std::memcpy(mBuffer.get() + mFilled, text, 8);
-            const std::uint64_t found = test(lanesAt(text));
-            const int nb = found ? firstLane(found) : 8;
-            mFilled += static_cast<std::size_t>(nb);
+            const unsigned nb = copyPlain(mBuffer.get() + mFilled, text);
+            mFilled += nb;
             text += nb;
-            if (found)
+            if (nb < kPlainAtATime)
                 return text;
         }
     }

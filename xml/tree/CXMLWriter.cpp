@@ -22,14 +22,6 @@ bool isForbidden(char c, bool isValue)
     return u < ' ' || c == '&' || c == '<' || c == '>' || c == '"' || u == 0x7F;
 }
 
-/// These characters, and NUL, which ends each text. A tab and a line end are always among them.
-std::uint64_t forbiddenLanes(std::uint64_t lanes)
-{
-    static_assert(('<' | 2) == '>' && ('"' | 4) == '&');
-    return lanesBelow(lanes, ' ') | lanesOf(lanes | eachLane(2), '>') |
-           lanesOf(lanes | eachLane(4), '&') | lanesOf(lanes, '\x7F');
-}
-
 /// Names lie in the pool of the tree, which can be read for so far.
 SPaddedText padded(const SXMLName* name)
 {
@@ -217,21 +209,25 @@ void CXMLWriter::Section(CXMLCDataNode& node)
     mOut.Put("]]>");
 }
 
-/// The text is one of the tree's own, behind which a word can be read.
+/// The text is one of the tree's own, behind which so much can be read.
 void CXMLWriter::Escaped(const char* text, bool isValue)
 {
-    if (!*text)
-        return;
-    if (mKeepNext)
+    if (mKeepNext) {
+        if (!*text)
+            return;
+        mKeepNext = false;
         Reference(*text++);
-    mKeepNext = false;
-    while (*(text = mOut.PutUpTo(text, forbiddenLanes))) {
-        if (isForbidden(*text, isValue))
-            Reference(*text);
-        else
-            mOut.Put(*text);
-        ++text;
     }
+    while (*(text = mOut.PutPlain(text)))
+        NotPlain(*text++, isValue);
+}
+
+void CXMLWriter::NotPlain(char c, bool isValue)
+{
+    if (isForbidden(c, isValue))
+        Reference(c);
+    else
+        mOut.Put(c);
 }
 
 void CXMLWriter::Reference(char c)

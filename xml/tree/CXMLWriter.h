@@ -37,6 +37,7 @@ private:
     void Instruction(CXMLNode& node);
     void Section(CXMLCDataNode& node);
     void Escaped(const char* text, bool isValue);
+    void NotPlain(char c, bool isValue);
     void Reference(char c);
 
     static constexpr std::size_t kNowhere = static_cast<std::size_t>(-1);

@@ -1,0 +1,38 @@
+#include "xml/tree/copyPlain.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+
+namespace OrvaneXML {
+
+namespace {
+
+bool isPlain(int character)
+{
+    return character >= ' ' && character != 0x7F &&
+           std::string_view("&<>\"").find(static_cast<char>(character)) == std::string_view::npos;
+}
+
+} // namespace
+
+TEST(CopyPlain, StopsAtTheFirstThatIsNotPlain)
+{
+    for (const auto copy : {copyPlain, copyPlainByLanes})
+        for (const char filler : {'a', ' ', '~', '!', '\xFF', '\x80', '=', '\''})
+            for (std::size_t at = 0; at < kPlainAtATime; ++at)
+                for (int character = 0; character < 256; ++character) {
+                    std::string text(kPlainAtATime, filler);
+                    text[at] = static_cast<char>(character);
+                    if (at + 1 < kPlainAtATime)
+                        text.back() = '<'; // a second one counts for nothing
+                    const std::size_t last = kPlainAtATime - (at + 1 < kPlainAtATime ? 1 : 0);
+                    char copied[kPlainAtATime];
+                    const std::size_t nb = copy(copied, text.data());
+                    ASSERT_EQ(nb, isPlain(character) ? last : at) << at << ' ' << character;
+                    ASSERT_EQ(std::string_view(copied, nb), std::string_view(text).substr(0, nb));
+                }
+}
+
+} // namespace OrvaneXML
