@@ -143,7 +143,6 @@ private:
     void layOutFixedElements();
     OrvaneXML::XIXMLElement* insertBehind(OrvaneXML::XIXMLElement* before, const char* tag);
     OrvaneXML::XIXMLElement* addSection(const char* tag);
-    void destroyLater(OrvaneXML::XIXMLElement* section);
     OrvaneXML::XIXMLElement* renewSection(const char* tag);
     void destroySections(const char* tag);
     OrvaneXML::XIXMLElement* fileNode();

@@ -113,12 +113,7 @@ XIXMLElement* CZEL::insertBehind(XIXMLElement* before, const char* tag)
 void CZEL::destroySections(const char* tag)
 {
     XIXMLElement* file = fileNode();
-    XIXMLElement* section = file->FindElement(file->MakeKey(tag));
-    while (section != nullptr) {
-        XIXMLElement* next = section->GetNextSame();
-        section->Destroy();
-        section = next;
-    }
+    CZelXMLAdd::DestroySame(file->FindElement(file->MakeKey(tag)));
 }
 
 /// An empty section in front of those of that name.
@@ -133,20 +128,10 @@ XIXMLElement* CZEL::addSection(const char* tag)
     return made;
 }
 
-/// Destroys the sections of the same name behind this one.
-void CZEL::destroyLater(XIXMLElement* section)
-{
-    for (XIXMLElement* other = section->GetNextSame(); other != nullptr;) {
-        XIXMLElement* next = other->GetNextSame();
-        other->Destroy();
-        other = next;
-    }
-}
-
 XIXMLElement* CZEL::renewSection(const char* tag)
 {
     XIXMLElement* made = addSection(tag);
-    destroyLater(made);
+    CZelXMLAdd::DestroySame(made->GetNextSame());
     return made;
 }
 

@@ -99,19 +99,22 @@ void CZEL::writeImages()
     }
 }
 
-/// Each item takes the place in memory of one that goes, which the processor has just seen.
+/// The old items go one by one, so that each new one finds memory that is still in the cache. After
+/// a failure one old section may stay, which the next save takes away.
 template <class Mgr>
 void CZEL::renewItems(CZelXMLIO& io, const char* tag, OrvaneXML::CXMLTag itemTag, const Mgr& list)
 {
     XIXMLElement* section = addSection(tag);
     XIXMLElement* old = section->GetNextSame();
+    if (old != nullptr)
+        CZelXMLAdd::DestroySame(old->GetNextSame());
     const CZelXMLAdd out(section);
     for (std::int32_t i = 0; i < list.size(); ++i) {
+        list.at(i)->addTo(io, CZelXMLAdd(out.AddElement(itemTag)));
         if (OrvaneXML::XIXMLData* gone = old != nullptr ? old->GetFirstNode() : nullptr)
             gone->Destroy();
-        list.at(i)->addTo(io, CZelXMLAdd(out.AddElement(itemTag)));
     }
-    destroyLater(section);
+    CZelXMLAdd::DestroySame(old);
 }
 
 void CZEL::writeSections(CZelXMLIO& io)

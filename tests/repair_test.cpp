@@ -184,3 +184,29 @@ TEST(Repair, ASaveThatFailsLeavesALoadedFileReadyForTheNext)
     light->setType(0);
     EXPECT_EQ(document.save(), good);
 }
+
+TEST(Repair, SavesThatFailDoNotPileUpSections)
+{
+    CClientDocument source;
+    source->getLights()->newZelObject(-1);
+    CClientDocument document;
+    ASSERT_TRUE(document.read(source.save()));
+    const auto nbSections = [&document] {
+        OrvaneXML::XIXMLElement* const file =
+            document->getApplicationData("Mine")->GetNode()->GetParent()->GetNode()->GetParent();
+        int nb = 0;
+        for (auto* each = file->FindElement(file->MakeKey("Lights")); each != nullptr;
+             each = each->GetNextSame())
+            ++nb;
+        return nb;
+    };
+    EXPECT_EQ(nbSections(), 1);
+    document->getLights()->getZelObject(0)->setType(9);
+    for (int i = 0; i < 5; ++i) {
+        EXPECT_FALSE(document.write());
+        EXPECT_LE(nbSections(), 2); // the one that was begun, and that of the file
+    }
+    document->getLights()->getZelObject(0)->setType(0);
+    EXPECT_TRUE(document.write());
+    EXPECT_EQ(nbSections(), 1);
+}

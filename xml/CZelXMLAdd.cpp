@@ -57,11 +57,15 @@ XIXMLElement* CZelXMLAdd::ReuseElement(CXMLTag tag) const
 
 void CZelXMLAdd::DestroyElements(CXMLTag tag) const
 {
-    XIXMLElement* found = mElement->FindElement(mElement->MakeKey(tag.text()));
-    while (found != nullptr) {
-        XIXMLElement* next = found->GetNextSame();
-        found->Destroy();
-        found = next;
+    DestroySame(mElement->FindElement(mElement->MakeKey(tag.text())));
+}
+
+void CZelXMLAdd::DestroySame(XIXMLElement* element)
+{
+    while (element != nullptr) {
+        XIXMLElement* next = element->GetNextSame();
+        element->Destroy();
+        element = next;
     }
 }
 

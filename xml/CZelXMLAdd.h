@@ -44,6 +44,8 @@ public:
     /// Destroys every child of this name first, so that a save replaces what a file had.
     XIXMLElement* ReuseElement(CXMLTag tag) const;
     void DestroyElements(CXMLTag tag) const;
+    /// Destroys the element, if it is one, and those of its name behind it.
+    static void DestroySame(XIXMLElement* element);
 
     /// An empty child if true; nothing, and null, if false.
     XIXMLElement* AddBoolean(CXMLTag tag, bool value) const;
