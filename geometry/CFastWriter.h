@@ -67,6 +67,8 @@ public:
     void flush();
 
 private:
+    // More than a tree collects of small writes, so that a full buffer goes out as it is; and file
+    // systems take large pieces with less work.
     static constexpr std::size_t kSize = 256 * 1024;
 
     static char* putReal(char* out, double value);

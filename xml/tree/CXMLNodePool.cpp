@@ -46,7 +46,7 @@ CXMLNodePool::SClass CXMLNodePool::ClassOf(std::size_t size)
 /// What a block of so many bytes takes.
 std::size_t CXMLNodePool::WholeSize(std::size_t size)
 {
-    return sizeof(SBlock) + size + kReadBehind;
+    return sizeof(SBlock) + size + kWidestStep;
 }
 
 CXMLNodePool::SBlock* CXMLNodePool::NewBlock(std::size_t size)

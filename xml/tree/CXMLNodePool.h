@@ -1,5 +1,7 @@
 #pragma once
 
+#include "xml/tree/lanes.h"
+
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -13,9 +15,9 @@ namespace OrvaneXML {
 /// own and go back there. Nodes are cut from the front of a block and are aligned to 8; texts come
 /// from its back, where they lie as close as an alignment to 2 lets them.
 ///
-/// Behind each piece some bytes more can be read, so that a text may be read by words.
+/// Behind each piece some bytes more can be read, so that a text may be read in wide steps.
 ///
-///     SBlock | nodes .. mNext | free | mEnd .. texts | kReadBehind
+///     SBlock | nodes .. mNext | free | mEnd .. texts | kWidestStep
 class CXMLNodePool {
 public:
     CXMLNodePool() = default;
@@ -63,7 +65,6 @@ private:
         std::size_t index, size;
     };
 
-    static constexpr std::size_t kReadBehind = 16;
     static constexpr std::size_t kNbClasses = 32 + 24;
     static constexpr std::size_t kMaxFine = 256; // up to here a class every 8 bytes, 2 for texts
 

@@ -2,7 +2,7 @@
 
 #include "xml/tree/characters.h"
 #include "xml/tree/decodeText.h"
-#include "xml/tree/lanes.h"
+#include "xml/tree/findStop.h"
 #include "xml/tree/shortBytes.h"
 #include "xml/tree/skipDoctype.h"
 
@@ -43,11 +43,6 @@ constexpr auto kPlainNameEnds = makePlainNameEnds();
 bool endsName(char c)
 {
     return kNameEnds[static_cast<unsigned char>(c)];
-}
-
-std::uint64_t textEnds(std::uint64_t lanes)
-{
-    return lanesOf(lanes, '<') | lanesOf(lanes, '&') | lanesOf(lanes, '\r') | lanesOf(lanes, 0);
 }
 
 template <class TChar>
@@ -263,7 +258,7 @@ char* CXMLScanner::PastLeaf(char* p)
 {
     if (isWhite(*p))
         return p;
-    char* const end = findLane(p, textEnds);
+    char* const end = findTextStop(p);
     const std::size_t size = mName.view().size();
     if (end[0] != '<' || end[1] != '/' || mEnd - PlaceOf(end) < size + 3 || end[2 + size] != '>' ||
         !isSame(end + 2, mName.begin, size))
@@ -297,9 +292,7 @@ char* CXMLScanner::ScanValue(char* p, char quote, bool& isPlain)
 {
     isPlain = true;
     for (;; ++p) {
-        p = findLane(p, [quote](std::uint64_t lanes) {
-            return lanesOf(lanes, quote) | lanesOf(lanes, '&') | lanesBelow(lanes, ' ');
-        });
+        p = findValueStop(p, quote);
         if (*p == quote)
             return p;
         if (!*p)
@@ -409,7 +402,7 @@ char* CXMLScanner::ScanText()
         mIsPlain &= *p != '\r';
     mIsWhite = *p == '<';
     for (;; ++p) {
-        p = findLane(p, textEnds);
+        p = findTextStop(p);
         if (*p == '<' || !*p)
             break;
         mIsPlain = false;

@@ -1,5 +1,7 @@
 #include "xml/tree/CXMLWindow.h"
 
+#include "xml/tree/lanes.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
@@ -11,7 +13,7 @@ namespace OrvaneXML {
 namespace {
 
 constexpr std::size_t kWindow = 64 * 1024;
-constexpr std::uint64_t kBehind = 0;
+constexpr char kBehind[kWidestStep] = {};
 
 std::size_t countLineEnds(const char* begin, const char* end)
 {
@@ -42,7 +44,7 @@ std::unique_ptr<char[]> CXMLWindow::NewBuffer(std::size_t capacity)
 
 void CXMLWindow::PutEnd()
 {
-    std::memcpy(mBuffer.get() + mEnd, &kBehind, sizeof kBehind);
+    std::memcpy(mBuffer.get() + mEnd, kBehind, sizeof kBehind);
 }
 
 void CXMLWindow::MakeRoom()

@@ -11,8 +11,8 @@
 namespace OrvaneXML {
 
 /// The bytes of a stream around the token that is being scanned, which lies here as a whole. The
-/// window grows with a token as its bytes arrive. A word of NULs stands behind its last byte and
-/// ends every loop over it.
+/// window grows with a token as its bytes arrive. Sixteen NULs stand behind its last byte and end
+/// every loop over it.
 ///
 ///     released | token  mTokenBegin .. mPosition | read ahead .. mEnd | free .. mCapacity
 class CXMLWindow {
@@ -80,10 +80,11 @@ public:
 
     void SkipWhite() { SkipWhile(isWhite); }
 
-    /// To be called ahead of all others. To count the lines takes longer than to skip a section.
+    /// Syntax errors don't tell their line: to count lines takes longer than to skip a section.
     void TellNoLines() { mTellsLines = false; }
 
-    /// Throws std::runtime_error with the line of the place, behind which nothing was changed yet.
+    /// Throws std::runtime_error, with the line of the place unless lines are not told. Nothing was
+    /// changed behind the place yet.
     [[noreturn]] void Fail(const char* what, std::size_t upTo);
     [[noreturn]] void Fail(const char* what) { Fail(what, mPosition); }
 

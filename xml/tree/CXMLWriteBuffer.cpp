@@ -6,7 +6,7 @@
 namespace OrvaneXML {
 
 CXMLWriteBuffer::CXMLWriteBuffer(XIXMLWriteStream& stream)
-    : mStream(stream), mBuffer(std::make_unique_for_overwrite<char[]>(kSize + kPadded))
+    : mStream(stream), mBuffer(std::make_unique_for_overwrite<char[]>(kSize + kWidestStep))
 {
 }
 

@@ -13,7 +13,8 @@
 
 namespace OrvaneXML {
 
-/// A text from the beginning of which 16 bytes can be read, so that a short one is copied at once.
+/// A text from the beginning of which a widest step can be read, so that a short one is copied at
+/// once.
 struct SPaddedText {
     std::string_view text;
 
@@ -51,16 +52,16 @@ public:
         mFilled = static_cast<std::size_t>(out - mBuffer.get());
     }
     /// Puts the plain characters that `text` begins with, and returns where the first other one
-    /// stands, which may be the NUL at its end. 15 bytes can be read behind that.
+    /// stands, which may be the NUL at its end. A widest step can be read there.
     const char* PutPlain(const char* text)
     {
         for (;;) {
-            if (kSize - mFilled < kPlainAtATime)
+            if (kSize - mFilled < kWidestStep)
                 Flush();
             const unsigned nb = copyPlain(mBuffer.get() + mFilled, text);
             mFilled += nb;
             text += nb;
-            if (nb < kPlainAtATime)
+            if (nb < kWidestStep)
                 return text;
         }
     }
@@ -68,16 +69,14 @@ public:
     void Flush();
 
 private:
-    static constexpr std::size_t kPadded = 16;
-
     static void CopyPiece(char* out, std::string_view text)
     {
         copyBytes(out, text.data(), text.size());
     }
     static void CopyPiece(char* out, SPaddedText padded)
     {
-        std::memcpy(out, padded.text.data(), kPadded);
-        if (padded.size() > kPadded)
+        std::memcpy(out, padded.text.data(), kWidestStep);
+        if (padded.size() > kWidestStep)
             std::memcpy(out, padded.text.data(), padded.size());
     }
     void PutPiece(std::string_view text) { Put(text); }

@@ -13,15 +13,6 @@ namespace OrvaneXML {
 
 namespace {
 
-/// Whether a character cannot stand in a text, or in a value, as it is.
-bool isForbidden(char c, bool isValue)
-{
-    const auto u = static_cast<unsigned char>(c);
-    if (c == '\t' || c == '\n')
-        return isValue;
-    return u < ' ' || c == '&' || c == '<' || c == '>' || c == '"' || u == 0x7F;
-}
-
 /// Names lie in the pool of the tree, which can be read for so far.
 SPaddedText padded(const SXMLName* name)
 {
@@ -209,7 +200,7 @@ void CXMLWriter::Section(CXMLCDataNode& node)
     mOut.Put("]]>");
 }
 
-/// The text is one of the tree's own, behind which so much can be read.
+/// The text is one of the tree's own.
 void CXMLWriter::Escaped(const char* text, bool isValue)
 {
     if (mKeepNext) {
@@ -222,12 +213,13 @@ void CXMLWriter::Escaped(const char* text, bool isValue)
         NotPlain(*text++, isValue);
 }
 
+/// A tab or a line end can stand in a text as it is; reading would make blanks of them in a value.
 void CXMLWriter::NotPlain(char c, bool isValue)
 {
-    if (isForbidden(c, isValue))
-        Reference(c);
-    else
+    if (!isValue && (c == '\t' || c == '\n'))
         mOut.Put(c);
+    else
+        Reference(c);
 }
 
 void CXMLWriter::Reference(char c)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "xml/tree/lanes.h"
+
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -12,7 +14,7 @@ namespace OrvaneXML {
 // values of a scene are one of these. All trees share them. Like all texts of a tree they are
 // aligned to 2, and a text of full length may be read by words.
 
-inline constexpr std::size_t kCommonRoom = 48;
+inline constexpr std::size_t kCommonRoom = 32 + kWidestStep;
 alignas(2) inline constexpr char kCommonTexts[4][kCommonRoom] = {
     "", "0.000000", "1.000000", "00000000000000000000000000000000"};
 

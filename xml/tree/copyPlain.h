@@ -4,23 +4,21 @@
 #include "xml/tree/sse2.h"
 
 #include <bit>
-#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
 namespace OrvaneXML {
 
-constexpr std::size_t kPlainAtATime = 16;
-
-// Both copy 16 characters, and return how many of them stand in front of the first that is not
-// plain: a control character, DEL or one of & < > ". These cannot always go out as they are.
+// Both copy the plain ones of 16 characters up to the first that is not plain, and return how many:
+// control characters, DEL and & < > " are not, and cannot always go out as they are. All 16 can be
+// read, and may be written.
 
 static_assert(('<' | 2) == '>' && ('"' | 4) == '&'); // so one test finds two of them
 
 /// Eight at a time, as every processor can.
 inline unsigned copyPlainByLanes(char* to, const char* from)
 {
-    for (unsigned at = 0; at < kPlainAtATime; at += 8) {
+    for (unsigned at = 0; at < kWidestStep; at += 8) {
         std::memcpy(to + at, from + at, 8);
         const std::uint64_t text = lanesAt(from + at);
         const std::uint64_t found = lanesBelow(text, ' ') | lanesOf(text, '\x7F') |
@@ -29,7 +27,7 @@ inline unsigned copyPlainByLanes(char* to, const char* from)
         if (found)
             return at + static_cast<unsigned>(firstLane(found));
     }
-    return kPlainAtATime;
+    return kWidestStep;
 }
 
 inline unsigned copyPlain(char* to, const char* from)
@@ -46,7 +44,7 @@ inline unsigned copyPlain(char* to, const char* from)
     const __m128i found =
         _mm_or_si128(_mm_or_si128(isControl, isDelete), _mm_or_si128(isAngle, isQuote));
     const auto places = static_cast<unsigned>(_mm_movemask_epi8(found));
-    return static_cast<unsigned>(std::countr_zero(places | 1U << kPlainAtATime));
+    return static_cast<unsigned>(std::countr_zero(places | 1U << kWidestStep));
 #else
     return copyPlainByLanes(to, from);
 #endif

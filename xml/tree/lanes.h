@@ -1,10 +1,15 @@
 #pragma once
 
 #include <bit>
+#include <cstddef>
 #include <cstdint>
 #include <cstring>
 
 namespace OrvaneXML {
+
+/// The widest step through a text. So many bytes can be read at the NUL behind each text of a tree,
+/// and behind the last one of a document.
+constexpr std::size_t kWidestStep = 16;
 
 // Eight characters at once: each lane of a 64-bit number holds one. A test sets the highest bit of
 // each lane that passes. Borrows spoil lanes behind the first that passes, never that one.
