@@ -4,22 +4,42 @@
 #include <cstring>
 #include <exception>
 #include <memory>
+#include <stdexcept>
 #include <sys/mman.h>
 
 namespace ZelBench {
 
+namespace {
+
+class CTouchedArea {
+public:
+    explicit CTouchedArea(int advice)
+        : mBegin(mmap(nullptr, kSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0))
+    {
+        if (mBegin == MAP_FAILED)
+            throw std::runtime_error("No memory to touch");
+        madvise(mBegin, kSize, advice);
+        std::memset(mBegin, 1, kSize);
+    }
+    CTouchedArea(const CTouchedArea&) = delete;
+    CTouchedArea& operator=(const CTouchedArea&) = delete;
+    ~CTouchedArea() { munmap(mBegin, kSize); }
+
+private:
+    static constexpr std::size_t kSize = std::size_t{256} << 20;
+
+    void* mBegin;
+};
+
+} // namespace
+
 void warmMemory()
 {
-    constexpr std::size_t kSize = std::size_t{256} << 20;
     if (isSmall())
         return;
-    void* const area =
-        mmap(nullptr, kSize, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    if (area == MAP_FAILED)
-        return;
-    madvise(area, kSize, MADV_HUGEPAGE);
-    std::memset(area, 1, kSize);
-    munmap(area, kSize);
+    // The system keeps large pages and small ones apart, also when they are free again.
+    const CTouchedArea large(MADV_HUGEPAGE);
+    const CTouchedArea small(MADV_NOHUGEPAGE);
 }
 
 static void measure(benchmark::State& state, SPair& pair, SPair (*make)())

@@ -33,9 +33,9 @@ inline double processSeconds()
     return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
 }
 
-/// Touches more memory than a side of a pair takes, and gives it back: a virtual machine's host
-/// takes pages away that lay free for seconds, and each of them then costs many times a page's time
-/// for whom it meets.
+/// Touches 256 MiB of small and as much of large pages, and gives them back. A virtual machine's
+/// host takes pages away that lay free for seconds, and one that it has to bring back costs many
+/// times a usual one.
 void warmMemory();
 
 /// The time of an action that gives what it made, without the time to destroy that. Free memory
