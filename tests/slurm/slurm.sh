@@ -91,7 +91,10 @@ kill_node() {
     mapfile -t daemons < <(printf '%s\n' "${daemons[@]}" | sort -u)
     [[ ${#daemons[@]} == 2 ]] || { echo "FAILED: not both jobs are found"; exit 1; }
     kill -KILL "$node" "${daemons[@]}"
-    kill -KILL "${victims[@]}" 2> /dev/null || true # some may have ended by now
+    for pid in "${victims[@]}"; do
+        kill -KILL "$pid" 2> /dev/null || [[ ! -e /proc/$pid ]] ||
+            { echo "FAILED: process $pid of a job lives on"; exit 1; }
+    done
     { wait "$node" || true; } 2> /dev/null
     # As a health check does; the silence of the node would tell in some 30 s.
     scontrol update "nodename=$host" state=down reason=dead
