@@ -11,7 +11,8 @@
 namespace OrvaneXML {
 
 /// Cuts a stream into tokens and checks what can be checked without a tree: nesting, one root
-/// element, references, characters. Syntax errors are thrown as std::runtime_error with the line.
+/// element, references, characters. Syntax errors are thrown as std::runtime_error, with the line
+/// unless TellNoLines was called.
 ///
 /// A token is decoded in place in the window, and its texts are valid until the next token. White
 /// space between two tags of which one begins or ends a child element is no token. The bytes of a
